@@ -1,0 +1,191 @@
+#include "cli/commands.h"
+
+#include "persistence/registrystore.h"
+#include "persistence/workspacefile.h"
+#include "shell/clock.h"
+#include "shell/context.h"
+#include "shell/dialogs.h"
+#include "shell/session.h"
+#include "workspace/shifttime.h"
+#include "workspace/workspace.h"
+
+#include <QFileInfo>
+
+#include <optional>
+
+namespace {
+
+const QString kUsage = QStringLiteral(
+    "usage: desko40-cli month YEAR MONTH\n"
+    "       desko40-cli interpret TEXT\n"
+    "       desko40-cli resave [--working] IN OUT\n"
+    "       desko40-cli keys FILE\n");
+
+// The tool's message boxes are lines on standard error; a line has no width to keep.
+class ConsoleDialogs final : public Dialogs {
+public:
+    explicit ConsoleDialogs(QTextStream& err, QString subject)
+        : err_(err), subject_(std::move(subject))
+    {
+    }
+    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons, int) override
+    {
+        err_ << "desko40-cli: " << subject_ << ": " << text << '\n';
+        shown_ = true;
+        return MsgAnswer::OK;
+    }
+    double textWidth(const QString&) const override { return 0.0; }
+    bool shown() const { return shown_; }
+
+private:
+    QTextStream& err_;
+    QString subject_;
+    bool shown_ = false;
+};
+
+// A workspace as a run of the program has it before reading any file. The tool leaves no
+// trace on the machine, so the settings store lives only as long as the command.
+struct Session {
+    Session(QTextStream& err, const QString& subject) : dialogs(err, subject)
+    {
+        modInitNameTables(ws);
+        modInitSession(ws, modAppPath());
+    }
+    Workspace ws;
+    SystemClock clock;
+    ConsoleDialogs dialogs;
+    MemoryRegistryStore registry;
+    Context ctx{clock, dialogs, registry, {}};
+};
+
+int usage(QTextStream& err)
+{
+    err << kUsage;
+    return 2;
+}
+
+int fail(QTextStream& err, const QString& path, const QString& what)
+{
+    err << "desko40-cli: " << path << ": " << what << '\n';
+    return 1;
+}
+
+bool readable(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.isReadable();
+}
+
+std::optional<int> number(const QString& text)
+{
+    bool ok = false;
+    const int value = text.toInt(&ok);
+    return ok ? std::optional<int>(value) : std::nullopt;
+}
+
+int month(const QStringList& args, QTextStream& out, QTextStream& err)
+{
+    const std::optional<int> year = number(args.value(1));
+    const std::optional<int> month = number(args.value(2));
+    if (args.size() != 3 || !year || !month || *month < 1 || *month > 12) {
+        return usage(err);
+    }
+    Workspace ws;
+    modInitNameTables(ws);
+    ws.gCurrentYear = *year;
+    ws.gCurrentMonth = *month;
+    modSetupMonth(ws);
+    out << ws.gFirstWeekday << ' ' << ws.gMonthDays[*month] << ' ' << ws.gCalendarSixRows << '\n';
+    return 0;
+}
+
+int interpret(const QStringList& args, QTextStream& out, QTextStream& err)
+{
+    if (args.size() != 2) {
+        return usage(err);
+    }
+    QString start;
+    QString end;
+    const bool ok = modInterpretShiftTime(args[1], start, end);
+    out << (ok ? "True" : "False") << '\t' << start << '\t' << end << '\n';
+    return 0;
+}
+
+// Loads a schedule file, or with asWorkingFile the file as the working file in its own
+// month. False when it was refused; the refusal has been told on err.
+bool load(Session& session, const QString& path, bool asWorkingFile)
+{
+    if (asWorkingFile) {
+        session.ws.gConfigFile = path;
+        modLoadWorkspace(session.ws, session.ctx, QString());
+        modTakeSavedMonth(session.ws);
+    } else {
+        modLoadWorkspace(session.ws, session.ctx, path);
+    }
+    return !session.dialogs.shown();
+}
+
+int resave(const QStringList& args, QTextStream& err)
+{
+    const bool working = args.value(1) == QStringLiteral("--working");
+    const QStringList files = args.mid(working ? 2 : 1);
+    if (files.size() != 2) {
+        return usage(err);
+    }
+    const QString& in = files[0];
+    const QString& target = files[1];
+    if (!readable(in)) {
+        return fail(err, in, QStringLiteral("cannot be read"));
+    }
+    Session session(err, in);
+    if (!load(session, in, working)) {
+        return 1;
+    }
+    if (working) {
+        session.ws.gConfigFile = target;
+    }
+    if (!modSaveWorkspace(session.ws, session.ctx, working ? QString() : target)) {
+        return fail(err, target, QStringLiteral("cannot be written"));
+    }
+    return 0;
+}
+
+int keys(const QStringList& args, QTextStream& out, QTextStream& err)
+{
+    if (args.size() != 2) {
+        return usage(err);
+    }
+    const QString& path = args[1];
+    if (!readable(path)) {
+        return fail(err, path, QStringLiteral("cannot be read"));
+    }
+    Session session(err, path);
+    if (!load(session, path, false)) {
+        return 1;
+    }
+    const Workspace& ws = session.ws;
+    for (int i = 1; i <= ws.gAgentCount; ++i) {
+        out << i << '\t' << ws.gAgentKey[i] << '\t' << ws.gAgentFirstKey[i] << '\n';
+    }
+    return 0;
+}
+
+}  // namespace
+
+int runCommand(const QStringList& args, QTextStream& out, QTextStream& err)
+{
+    const QString command = args.value(0);
+    if (command == QStringLiteral("month")) {
+        return month(args, out, err);
+    }
+    if (command == QStringLiteral("interpret")) {
+        return interpret(args, out, err);
+    }
+    if (command == QStringLiteral("resave")) {
+        return resave(args, err);
+    }
+    if (command == QStringLiteral("keys")) {
+        return keys(args, out, err);
+    }
+    return usage(err);
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+// Text files as the program keeps them: written in UTF-8, read as UTF-8 or, when the bytes
+// are not valid UTF-8, as Windows-1252, so that files from Windows machines open.
+
+QString decodeText(const QByteArray& bytes);
+
+// The whole text of a file; nothing when it is missing, a directory or unreadable.
+std::optional<QString> readTextFile(const QString& path);
+
+// Replaces the file's contents with the text, in UTF-8. The new contents go to a temporary
+// file in the same directory first and take the file's place only when complete, so a
+// failure at any point leaves the old contents. A read-only file, a read-only or missing
+// directory: false, and nothing changes.
+bool writeTextFile(const QString& path, const QString& text);

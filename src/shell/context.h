@@ -1,0 +1,15 @@
+#pragma once
+
+#include "environment/environment.h"
+
+class Clock;
+class Dialogs;
+class RegistryStore;
+
+// The services every part of the program uses, passed in beside the Workspace.
+struct Context {
+    Clock& clock;
+    Dialogs& dialogs;
+    RegistryStore& registry;
+    Environment env;
+};

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "shell/dialogs.h"
+
+class QWidget;
+
+// Message boxes as Qt dialogs over the main window, measured in its font.
+class QtDialogs final : public Dialogs {
+public:
+    explicit QtDialogs(QWidget* parent = nullptr) : parent_(parent) {}
+    void setParent(QWidget* parent) { parent_ = parent; }
+    MsgAnswer messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
+                         int defaultButton = 1) override;
+    double textWidth(const QString& text) const override;
+
+private:
+    QWidget* parent_;
+};
