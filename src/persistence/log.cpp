@@ -1,5 +1,6 @@
 #include "persistence/log.h"
 
+#include "persistence/textfile.h"
 #include "shell/clock.h"
 #include "shell/context.h"
 #include "shell/propercase.h"
@@ -34,7 +35,7 @@ void modStatus(const Workspace& ws, const Context& ctx, QString& text) {
     // Opened and closed for each line, so the file can be copied at any moment and the line
     // is on disk when this returns. No text mode: the line already carries its CR LF.
     QFile file(ws.gLogFile);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Append)) {
+    if (!isReadOnlyFile(ws.gLogFile) && file.open(QIODevice::WriteOnly | QIODevice::Append)) {
         file.write(line.toUtf8());
         file.close();
     }

@@ -44,10 +44,18 @@ std::optional<QString> readTextFile(const QString& path)
     return decodeText(file.readAll());
 }
 
+bool isReadOnlyFile(const QString& path)
+{
+    // A file without write permission counts as read-only for every user, the superuser
+    // included, as a read-only file does on other systems.
+    constexpr QFile::Permissions kAnyWrite = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    const QFileInfo info(path);
+    return info.exists() && (!info.isWritable() || !(info.permissions() & kAnyWrite));
+}
+
 bool writeTextFile(const QString& path, const QString& text)
 {
-    const QFileInfo info(path);
-    if (path.isEmpty() || info.isDir() || (info.exists() && !info.isWritable())) {
+    if (path.isEmpty() || QFileInfo(path).isDir() || isReadOnlyFile(path)) {
         return false;
     }
     QSaveFile file(path);

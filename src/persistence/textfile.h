@@ -13,6 +13,9 @@ QString decodeText(const QByteArray& bytes);
 // The whole text of a file; nothing when it is missing, a directory or unreadable.
 std::optional<QString> readTextFile(const QString& path);
 
+// True for an existing file that may not be written.
+bool isReadOnlyFile(const QString& path);
+
 // Replaces the file's contents with the text, in UTF-8. The new contents go to a temporary
 // file in the same directory first and take the file's place only when complete, so a
 // failure at any point leaves the old contents. A read-only file, a read-only or missing

@@ -11,7 +11,6 @@
 
 #include <string>
 
-#include <unistd.h>
 
 namespace {
 
@@ -157,9 +156,6 @@ TEST_F(LogTest, LogInMissingDirectoryLosesTheLine) {
 }
 
 TEST_F(LogTest, ReadOnlyLogLosesTheLine) {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "root writes to read-only files";
-    }
     {
         QFile file(ws.gLogFile);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

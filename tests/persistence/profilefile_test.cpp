@@ -1,1 +1,192 @@
+#include "fakes.h"
+#include "persistence/profileapi.h"
+#include "persistence/profilefile.h"
+#include "persistence/textfile.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
+
+namespace {
+
+const QString kSample = QStringLiteral(
+    "stray=before any section\r\n"
+    "[Titles]\r\n"
+    "Calendar Title =   March 2027  \r\n"
+    "calendar notes=\"quoted\"\r\n"
+    "Office Grid Title='single'\r\n"
+    "Half=\"open\r\n"
+    "a line without an equals sign\r\n"
+    "Calendar Title=second of the name\r\n"
+    "Empty=\r\n"
+    "  [ settings ]  \r\n"
+    "Version=4.0.10\r\n"
+    "[Titles]\r\n"
+    "Later=ignored, the first section of a name counts\r\n");
+
+}  // namespace
+
+TEST(ProfileFile, ReadsValuesAsTheFormatAlwaysHas)
+{
+    const ProfileFile file(kSample);
+    struct Case {
+        const char* section;
+        const char* key;
+        const char* value;
+    };
+    const Case cases[] = {
+        {"Titles", "Calendar Title", "March 2027"},   // blanks trimmed, first of the name
+        {"TITLES", "CALENDAR TITLE", "March 2027"},   // names compare without case
+        {"Titles", "Calendar Notes", "quoted"},       // one pair of quotes removed
+        {"Titles", "Office Grid Title", "single"},
+        {"Titles", "Half", "\"open"},                 // no pair, no removal
+        {"Titles", "Empty", ""},
+        {"Titles", "Missing", ""},
+        {"Titles", "stray", ""},                      // lines before a section belong nowhere
+        {"Titles", "Later", ""},
+        {"Settings", "Version", "4.0.10"},
+        {"Nowhere", "Version", ""},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(file.value(QString::fromUtf8(c.section), QString::fromUtf8(c.key)),
+                  QString::fromUtf8(c.value))
+            << c.section << "/" << c.key;
+    }
+    EXPECT_EQ(file.keyNames(QStringLiteral("titles")),
+              QStringList({QStringLiteral("Calendar Title"), QStringLiteral("calendar notes"),
+                           QStringLiteral("Office Grid Title"), QStringLiteral("Half"),
+                           QStringLiteral("Calendar Title"), QStringLiteral("Empty")}));
+    EXPECT_TRUE(file.keyNames(QStringLiteral("Holidays")).isEmpty());
+}
+
+TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest)
+{
+    struct Case {
+        const char* what;
+        QString before;
+        const char* section;
+        const char* key;
+        QString after;
+    };
+    const QString text = QStringLiteral("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n");
+    const Case cases[] = {
+        {"replaced in place", text, "a", "X",
+         QStringLiteral("[A]\r\nX=new\r\n\r\n[B]\r\ny=2\r\n")},
+        {"added after the section's last key", text, "A", "z",
+         QStringLiteral("[A]\r\nx=1\r\nz=new\r\n\r\n[B]\r\ny=2\r\n")},
+        {"added to an empty section", QStringLiteral("[A]\r\n[B]\r\n"), "A", "z",
+         QStringLiteral("[A]\r\nz=new\r\n[B]\r\n")},
+        {"a new section at the end", text, "Titles", "Grid Font",
+         QStringLiteral("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n[Titles]\r\nGrid Font=new\r\n")},
+        {"a new file", QString(), "Titles", "Grid Font",
+         QStringLiteral("[Titles]\r\nGrid Font=new\r\n")},
+        {"lines a Windows editor left with LF only", QStringLiteral("[A]\nx=1\n; note\n"), "A",
+         "x", QStringLiteral("[A]\r\nx=new\r\n; note\r\n")},
+    };
+    for (const Case& c : cases) {
+        ProfileFile file(c.before);
+        file.setValue(QString::fromUtf8(c.section), QString::fromUtf8(c.key), QStringLiteral("new"));
+        EXPECT_EQ(file.text(), c.after) << c.what;
+        EXPECT_EQ(file.value(QString::fromUtf8(c.section), QString::fromUtf8(c.key)),
+                  QStringLiteral("new"))
+            << c.what;
+    }
+}
+
+TEST(ProfileApi, KeyNamesAndValuesPassThroughTheirBuffers)
+{
+    QString text = QStringLiteral("[Agents]\r\n");
+    for (int i = 1; i <= 3000; ++i) {
+        text += QString::number(i) + QStringLiteral("=x\r\n");
+    }
+    text += QStringLiteral("[Titles]\r\nLong=") + QString(2000, QLatin1Char('v')) +
+            QStringLiteral("\r\nNull=before") + QChar(0) + QStringLiteral("after\r\n");
+    const ProfileFile file(text);
+
+    std::vector<QString> keys;
+    // "1".."9" take 2 characters with their nulls, then 3, 4 and 5: the names up to 1859 fit
+    // whole into 8191 characters, before the list's closing null.
+    ASSERT_EQ(modReadKeyNames(file, QStringLiteral("Agents"), keys), 1859);
+    EXPECT_EQ(keys[1], QStringLiteral("1"));
+    EXPECT_EQ(keys[1859], QStringLiteral("1859"));
+    EXPECT_EQ(modReadKeyNames(file, QStringLiteral("Missing"), keys), 0);
+    EXPECT_EQ(keys.size(), 1U);
+
+    EXPECT_EQ(modReadProfileValue(file, QStringLiteral("Titles"), QStringLiteral("Long")),
+              QString(1023, QLatin1Char('v')));
+    EXPECT_EQ(modReadProfileValue(file, QStringLiteral("Titles"), QStringLiteral("Null")),
+              QStringLiteral("before"));
+}
+
+TEST(ProfileApi, SplitFields)
+{
+    struct Case {
+        const char* text;
+        const char* delimiter;
+        int count;
+        QStringList fields;
+    };
+    const Case cases[] = {
+        {"Smith|John|js@example.org", "|", 3,
+         {QStringLiteral("Smith"), QStringLiteral("John"), QStringLiteral("js@example.org")}},
+        {"no delimiter", "|", 1, {QStringLiteral("no delimiter")}},
+        {"", "|", 1, {QString()}},
+        {"trailing|", "|", 2, {QStringLiteral("trailing"), QString()}},
+        {"|", "|", 2, {QString(), QString()}},
+        {"a|***empty***|b|c", "|", 2, {QStringLiteral("a"), QStringLiteral("b|c")}},
+        {"a|b", "", 0, {}},
+        {"a--b--c", "--", 3, {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}},
+    };
+    for (const Case& c : cases) {
+        std::vector<QString> fields;
+        EXPECT_EQ(modSplitFields(QString::fromUtf8(c.text), QString::fromUtf8(c.delimiter), fields),
+                  c.count)
+            << c.text;
+        ASSERT_EQ(fields.size(), static_cast<std::size_t>(c.fields.size()) + 1) << c.text;
+        EXPECT_TRUE(fields[0].isEmpty());
+        for (qsizetype i = 0; i < c.fields.size(); ++i) {
+            EXPECT_EQ(fields[static_cast<std::size_t>(i) + 1], c.fields[i]) << c.text;
+        }
+    }
+
+    QString text = QStringLiteral("one|two");
+    EXPECT_EQ(modNextField(text, QStringLiteral("|")), QStringLiteral("one"));
+    EXPECT_EQ(text, QStringLiteral("two"));
+    EXPECT_EQ(modNextField(text, QStringLiteral("|")), QStringLiteral("***empty***"));
+    EXPECT_EQ(text, QStringLiteral("two"));
+}
+
+TEST(TextFile, ReadsUtf8AndWindowsTextAndWritesWholeFilesOnly)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("names.ini"));
+    struct Case {
+        QByteArray bytes;
+        QString text;
+    };
+    const Case cases[] = {
+        {QByteArray("M\xc3\xbcller \xe2\x82\xac"), QStringLiteral("M\u00fcller \u20ac")},
+        {QByteArray("\xef\xbb\xbfwith mark"), QStringLiteral("with mark")},
+        {QByteArray("M\xfcller \x80 \x9c \x81"), QStringLiteral("M\u00fcller \u20ac \u0153 \u0081")},
+    };
+    for (const Case& c : cases) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(c.bytes);
+        file.close();
+        EXPECT_EQ(readTextFile(path), c.text);
+    }
+    EXPECT_FALSE(readTextFile(dir.filePath(QStringLiteral("missing"))).has_value());
+    EXPECT_FALSE(readTextFile(dir.path()).has_value());
+
+    ASSERT_TRUE(writeTextFile(path, QStringLiteral("Z\u00fcrich\r\n")));
+    EXPECT_EQ(readTextFile(path), QStringLiteral("Z\u00fcrich\r\n"));
+    EXPECT_FALSE(writeTextFile(dir.filePath(QStringLiteral("no/such/dir/x.ini")), QStringLiteral("x")));
+    EXPECT_FALSE(writeTextFile(dir.path(), QStringLiteral("x")));
+
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser);
+    EXPECT_FALSE(writeTextFile(path, QStringLiteral("replaced")));
+    EXPECT_EQ(readTextFile(path), QStringLiteral("Z\u00fcrich\r\n"));
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList({QStringLiteral("names.ini")}));
+}

@@ -9,6 +9,13 @@
 #include <QStringList>
 
 #include <deque>
+#include <ostream>
+
+// Test failures print texts as text.
+inline void PrintTo(const QString& text, std::ostream* os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
 
 // A clock that shows whatever the test sets.
 class FixedClock final : public Clock {
