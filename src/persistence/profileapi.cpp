@@ -42,11 +42,12 @@ QString modReadProfileValue(const ProfileFile& file, const QString& section, con
     return throughBuffer(file.value(section, key), kValueBuffer);
 }
 
-void modWriteProfileValue(ProfileFile& file, const QString& section, const QString& key,
-                          const QString& value)
+void modWriteProfileValue(ProfileFile& file, const QString& section, const ProfileValues& values)
 {
     QFile::setPermissions(file.path(), QFile::permissions(file.path()) | QFile::WriteOwner);
-    file.setValue(section, key, value);
+    for (const auto& [key, value] : values) {
+        file.setValue(section, key, value);
+    }
     writeTextFile(file.path(), file.text());
 }
 

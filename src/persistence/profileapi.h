@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <utility>
 #include <vector>
 
 class ProfileFile;
@@ -19,10 +20,14 @@ int modReadKeyNames(const ProfileFile& file, const QString& section, std::vector
 // The value of a key, "" when missing, cut at kValueBuffer - 1 characters.
 QString modReadProfileValue(const ProfileFile& file, const QString& section, const QString& key);
 
-// Makes the file writable if it was read-only, then replaces or adds the one key on disk,
-// keeping all other lines. A file that cannot be written keeps its contents.
-void modWriteProfileValue(ProfileFile& file, const QString& section, const QString& key,
-                          const QString& value);
+// Keys and their values, in the order they are written.
+using ProfileValues = std::vector<std::pair<QString, QString>>;
+
+// Makes the file writable if it was read-only, then replaces or adds each key of the
+// section, in memory and on disk, keeping all other lines. All keys go to disk in one
+// write, so a large file is not rewritten once a key. A file that cannot be written keeps
+// its contents.
+void modWriteProfileValue(ProfileFile& file, const QString& section, const ProfileValues& values);
 
 // Splits text at each delimiter into fields[1..count] (fields[0] stays empty) and returns
 // count: 0 for an empty delimiter, 1 for a text without it, and one more, empty, field for

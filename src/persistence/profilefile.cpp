@@ -128,11 +128,22 @@ void ProfileFile::setValue(const QString& section, const QString& key, const QSt
         const qsizetype at = endsWithBreak ? lines_.size() - 1 : lines_.size();
         lines_.insert(at, QLatin1Char('[') + section + QLatin1Char(']'));
         lines_.insert(at + 1, line);
+        index();
     } else if (const Key* entry = findKey(*found, key)) {
         lines_[entry->line] = line;
     } else {
-        const qsizetype last = found->keys.empty() ? found->headerLine : found->keys.back().line;
-        lines_.insert(last + 1, line);
+        const qsizetype at = (found->keys.empty() ? found->headerLine : found->keys.back().line) + 1;
+        lines_.insert(at, line);
+        // Every later line moves down by one; the new key joins its section's index.
+        const auto sectionAt = static_cast<std::size_t>(found - sections_.data());
+        for (Section& later : sections_) {
+            later.headerLine += later.headerLine >= at ? 1 : 0;
+            for (Key& k : later.keys) {
+                k.line += k.line >= at ? 1 : 0;
+            }
+        }
+        Section& owner = sections_[sectionAt];
+        owner.firstKey.insert(folded(key), static_cast<qsizetype>(owner.keys.size()));
+        owner.keys.push_back({key.trimmed(), at});
     }
-    index();
 }

@@ -314,13 +314,17 @@ void readTitlesAndSettings(Workspace& ws, const ProfileFile& file)
 
 void applyTitleDefaults(Workspace& ws, ProfileFile& file)
 {
+    ProfileValues written;
     for (const TitleDefault& fallback : kTitleDefaults) {
         QString& value = ws.*fallback.field;
         const bool zeroSize = fallback.field == &Workspace::gTearsheetFontsize && value == QStringLiteral("0");
         if (value.isEmpty() || zeroSize) {
             value = fallback.value;
-            modWriteProfileValue(file, kTitles, fallback.writtenKey, value);
+            written.emplace_back(fallback.writtenKey, value);
         }
+    }
+    if (!written.empty()) {
+        modWriteProfileValue(file, kTitles, written);
     }
 }
 
