@@ -25,11 +25,8 @@ const QString kUsage = QStringLiteral(
 class ConsoleDialogs final : public Dialogs {
 public:
     explicit ConsoleDialogs(QTextStream& err, QString subject)
-        : err_(err), subject_(std::move(subject))
-    {
-    }
-    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons, int) override
-    {
+        : err_(err), subject_(std::move(subject)) {}
+    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons, int) override {
         err_ << "desko40-cli: " << subject_ << ": " << text << '\n';
         shown_ = true;
         return MsgAnswer::OK;
@@ -46,8 +43,7 @@ private:
 // A workspace as a run of the program has it before reading any file. The tool leaves no
 // trace on the machine, so the settings store lives only as long as the command.
 struct Session {
-    Session(QTextStream& err, const QString& subject) : dialogs(err, subject)
-    {
+    Session(QTextStream& err, const QString& subject) : dialogs(err, subject) {
         modInitNameTables(ws);
         modInitSession(ws, modAppPath());
     }
@@ -58,33 +54,28 @@ struct Session {
     Context ctx{clock, dialogs, registry, {}};
 };
 
-int usage(QTextStream& err)
-{
+int usage(QTextStream& err) {
     err << kUsage;
     return 2;
 }
 
-int fail(QTextStream& err, const QString& path, const QString& what)
-{
+int fail(QTextStream& err, const QString& path, const QString& what) {
     err << "desko40-cli: " << path << ": " << what << '\n';
     return 1;
 }
 
-bool readable(const QString& path)
-{
+bool readable(const QString& path) {
     const QFileInfo info(path);
     return info.isFile() && info.isReadable();
 }
 
-std::optional<int> number(const QString& text)
-{
+std::optional<int> number(const QString& text) {
     bool ok = false;
     const int value = text.toInt(&ok);
     return ok ? std::optional<int>(value) : std::nullopt;
 }
 
-int month(const QStringList& args, QTextStream& out, QTextStream& err)
-{
+int month(const QStringList& args, QTextStream& out, QTextStream& err) {
     const std::optional<int> year = number(args.value(1));
     const std::optional<int> month = number(args.value(2));
     if (args.size() != 3 || !year || !month || *month < 1 || *month > 12) {
@@ -99,8 +90,7 @@ int month(const QStringList& args, QTextStream& out, QTextStream& err)
     return 0;
 }
 
-int interpret(const QStringList& args, QTextStream& out, QTextStream& err)
-{
+int interpret(const QStringList& args, QTextStream& out, QTextStream& err) {
     if (args.size() != 2) {
         return usage(err);
     }
@@ -113,8 +103,7 @@ int interpret(const QStringList& args, QTextStream& out, QTextStream& err)
 
 // Loads a schedule file, or with asWorkingFile the file as the working file in its own
 // month. False when it was refused; the refusal has been told on err.
-bool load(Session& session, const QString& path, bool asWorkingFile)
-{
+bool load(Session& session, const QString& path, bool asWorkingFile) {
     if (asWorkingFile) {
         session.ws.gConfigFile = path;
         modLoadWorkspace(session.ws, session.ctx, QString());
@@ -125,8 +114,7 @@ bool load(Session& session, const QString& path, bool asWorkingFile)
     return !session.dialogs.shown();
 }
 
-int resave(const QStringList& args, QTextStream& err)
-{
+int resave(const QStringList& args, QTextStream& err) {
     const bool working = args.value(1) == QStringLiteral("--working");
     const QStringList files = args.mid(working ? 2 : 1);
     if (files.size() != 2) {
@@ -150,8 +138,7 @@ int resave(const QStringList& args, QTextStream& err)
     return 0;
 }
 
-int keys(const QStringList& args, QTextStream& out, QTextStream& err)
-{
+int keys(const QStringList& args, QTextStream& out, QTextStream& err) {
     if (args.size() != 2) {
         return usage(err);
     }
@@ -172,8 +159,7 @@ int keys(const QStringList& args, QTextStream& out, QTextStream& err)
 
 }  // namespace
 
-int runCommand(const QStringList& args, QTextStream& out, QTextStream& err)
-{
+int runCommand(const QStringList& args, QTextStream& out, QTextStream& err) {
     const QString command = args.value(0);
     if (command == QStringLiteral("month")) {
         return month(args, out, err);

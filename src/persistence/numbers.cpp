@@ -7,8 +7,7 @@
 
 namespace {
 
-const QRegularExpression& numberPattern()
-{
+const QRegularExpression& numberPattern() {
     static const QRegularExpression pattern(
         QStringLiteral(R"(^[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([eE][+-]?[0-9]+)?)"));
     return pattern;
@@ -16,8 +15,7 @@ const QRegularExpression& numberPattern()
 
 }  // namespace
 
-double modVal(const QString& text)
-{
+double modVal(const QString& text) {
     const QString rest = text.trimmed();
     const QRegularExpressionMatch match = numberPattern().match(rest);
     if (!match.hasMatch()) {
@@ -27,8 +25,7 @@ double modVal(const QString& text)
     return std::isfinite(value) ? value : 0.0;
 }
 
-std::optional<double> numericValue(const QString& text)
-{
+std::optional<double> numericValue(const QString& text) {
     const QString rest = text.trimmed();
     const QRegularExpressionMatch match = numberPattern().match(rest);
     if (!match.hasMatch() || match.capturedLength(0) != rest.size()) {
@@ -41,17 +38,16 @@ std::optional<double> numericValue(const QString& text)
     return value;
 }
 
-std::optional<int> roundToInt(double value)
-{
+std::optional<int> roundToInt(double value) {
     const double rounded = std::nearbyint(value);  // the default mode rounds halves to even
-    if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max())) {
+    if (!(rounded >= std::numeric_limits<int>::min() &&
+          rounded <= std::numeric_limits<int>::max())) {
         return std::nullopt;
     }
     return static_cast<int>(rounded);
 }
 
-std::optional<int> wholeNumber(const QString& text)
-{
+std::optional<int> wholeNumber(const QString& text) {
     const std::optional<double> value = numericValue(text);
     return value ? roundToInt(*value) : std::nullopt;
 }

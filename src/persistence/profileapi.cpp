@@ -10,15 +10,13 @@ namespace {
 const QString kNoField = QStringLiteral("***empty***");
 
 // What a value buffer holds: the text up to its first null, cut to the buffer.
-QString throughBuffer(const QString& text, int buffer)
-{
+QString throughBuffer(const QString& text, int buffer) {
     return text.left(text.indexOf(QChar(0))).left(buffer - 1);
 }
 
 }  // namespace
 
-int modReadKeyNames(const ProfileFile& file, const QString& section, std::vector<QString>& keys)
-{
+int modReadKeyNames(const ProfileFile& file, const QString& section, std::vector<QString>& keys) {
     // The names come as one buffer, each ended by a null, the list by a second null; a name
     // that does not fit whole is left out.
     QString buffer;
@@ -37,13 +35,11 @@ int modReadKeyNames(const ProfileFile& file, const QString& section, std::vector
     return modSplitFields(buffer, QString(QChar(0)), keys);
 }
 
-QString modReadProfileValue(const ProfileFile& file, const QString& section, const QString& key)
-{
+QString modReadProfileValue(const ProfileFile& file, const QString& section, const QString& key) {
     return throughBuffer(file.value(section, key), kValueBuffer);
 }
 
-void modWriteProfileValue(ProfileFile& file, const QString& section, const ProfileValues& values)
-{
+void modWriteProfileValue(ProfileFile& file, const QString& section, const ProfileValues& values) {
     QFile::setPermissions(file.path(), QFile::permissions(file.path()) | QFile::WriteOwner);
     for (const auto& [key, value] : values) {
         file.setValue(section, key, value);
@@ -51,8 +47,7 @@ void modWriteProfileValue(ProfileFile& file, const QString& section, const Profi
     writeTextFile(file.path(), file.text());
 }
 
-int modSplitFields(const QString& text, const QString& delimiter, std::vector<QString>& fields)
-{
+int modSplitFields(const QString& text, const QString& delimiter, std::vector<QString>& fields) {
     fields.assign(1, QString());
     if (delimiter.isEmpty()) {
         return 0;
@@ -68,8 +63,7 @@ int modSplitFields(const QString& text, const QString& delimiter, std::vector<QS
     return static_cast<int>(fields.size()) - 1;
 }
 
-QString modNextField(QString& text, const QString& delimiter)
-{
+QString modNextField(QString& text, const QString& delimiter) {
     const qsizetype at = text.indexOf(delimiter);
     if (at < 0) {
         return kNoField;

@@ -4,14 +4,12 @@
 
 namespace {
 
-QString folded(const QString& name)
-{
+QString folded(const QString& name) {
     return name.trimmed().toCaseFolded();
 }
 
 // A section header's name: what stands between "[" and "]", or the line's end.
-bool sectionName(const QString& line, QString& name)
-{
+bool sectionName(const QString& line, QString& name) {
     const QString trimmed = line.trimmed();
     if (!trimmed.startsWith(QLatin1Char('['))) {
         return false;
@@ -21,8 +19,7 @@ bool sectionName(const QString& line, QString& name)
     return true;
 }
 
-QString unquoted(const QString& value)
-{
+QString unquoted(const QString& value) {
     if (value.size() >= 2) {
         const QChar first = value.front();
         if ((first == QLatin1Char('"') || first == QLatin1Char('\'')) && value.back() == first) {
@@ -35,8 +32,7 @@ QString unquoted(const QString& value)
 }  // namespace
 
 ProfileFile::ProfileFile(const QString& text, QString path)
-    : path_(std::move(path)), lines_(text.split(QLatin1Char('\n')))
-{
+    : path_(std::move(path)), lines_(text.split(QLatin1Char('\n'))) {
     for (QString& line : lines_) {
         if (line.endsWith(QLatin1Char('\r'))) {
             line.chop(1);
@@ -45,13 +41,11 @@ ProfileFile::ProfileFile(const QString& text, QString path)
     index();
 }
 
-ProfileFile ProfileFile::read(const QString& path)
-{
+ProfileFile ProfileFile::read(const QString& path) {
     return ProfileFile(readTextFile(path).value_or(QString()), path);
 }
 
-void ProfileFile::index()
-{
+void ProfileFile::index() {
     sections_.clear();
     firstSection_.clear();
     Section* current = nullptr;
@@ -83,20 +77,17 @@ void ProfileFile::index()
     }
 }
 
-const ProfileFile::Section* ProfileFile::findSection(const QString& name) const
-{
+const ProfileFile::Section* ProfileFile::findSection(const QString& name) const {
     const auto it = firstSection_.constFind(folded(name));
     return it == firstSection_.constEnd() ? nullptr : &sections_[*it];
 }
 
-const ProfileFile::Key* ProfileFile::findKey(const Section& section, const QString& name) const
-{
+const ProfileFile::Key* ProfileFile::findKey(const Section& section, const QString& name) const {
     const auto it = section.firstKey.constFind(folded(name));
     return it == section.firstKey.constEnd() ? nullptr : &section.keys[*it];
 }
 
-QStringList ProfileFile::keyNames(const QString& section) const
-{
+QStringList ProfileFile::keyNames(const QString& section) const {
     QStringList names;
     if (const Section* found = findSection(section)) {
         names.reserve(static_cast<qsizetype>(found->keys.size()));
@@ -107,8 +98,7 @@ QStringList ProfileFile::keyNames(const QString& section) const
     return names;
 }
 
-QString ProfileFile::value(const QString& section, const QString& key) const
-{
+QString ProfileFile::value(const QString& section, const QString& key) const {
     const Section* found = findSection(section);
     const Key* entry = found ? findKey(*found, key) : nullptr;
     if (entry == nullptr) {
@@ -118,8 +108,7 @@ QString ProfileFile::value(const QString& section, const QString& key) const
     return unquoted(line.mid(line.indexOf(QLatin1Char('=')) + 1).trimmed());
 }
 
-void ProfileFile::setValue(const QString& section, const QString& key, const QString& value)
-{
+void ProfileFile::setValue(const QString& section, const QString& key, const QString& value) {
     const QString line = key + QLatin1Char('=') + value;
     const Section* found = findSection(section);
     if (found == nullptr) {
@@ -132,7 +121,8 @@ void ProfileFile::setValue(const QString& section, const QString& key, const QSt
     } else if (const Key* entry = findKey(*found, key)) {
         lines_[entry->line] = line;
     } else {
-        const qsizetype at = (found->keys.empty() ? found->headerLine : found->keys.back().line) + 1;
+        const qsizetype at =
+            (found->keys.empty() ? found->headerLine : found->keys.back().line) + 1;
         lines_.insert(at, line);
         // Every later line moves down by one; the new key joins its section's index.
         const auto sectionAt = static_cast<std::size_t>(found - sections_.data());

@@ -57,30 +57,33 @@ struct TitleDefault {
 const std::array<TitleDefault, 8> kTitleDefaults = {{
     {&Workspace::gCalendarFont, QStringLiteral("Times New Roman"), QStringLiteral("Calendar Font")},
     {&Workspace::gGridFont, QStringLiteral("Times New Roman"), QStringLiteral("Grid Font")},
-    {&Workspace::gTearsheetFont, QStringLiteral("Times New Roman"), QStringLiteral("Tearsheet Font")},
+    {&Workspace::gTearsheetFont, QStringLiteral("Times New Roman"),
+     QStringLiteral("Tearsheet Font")},
     {&Workspace::gCalendarCopies, QStringLiteral("1"), QStringLiteral("Calendar Copies")},
     {&Workspace::gGridCopies, QStringLiteral("1"), QStringLiteral("Grid Copies")},
-    {&Workspace::gCalendarUseFirstName, QStringLiteral("0"), QStringLiteral("Calendar Use First Name")},
-    {&Workspace::gCalendarHideTimeText, QStringLiteral("0"), QStringLiteral("Calendar Hide Time Text")},
+    {&Workspace::gCalendarUseFirstName, QStringLiteral("0"),
+     QStringLiteral("Calendar Use First Name")},
+    {&Workspace::gCalendarHideTimeText, QStringLiteral("0"),
+     QStringLiteral("Calendar Hide Time Text")},
     {&Workspace::gTearsheetFontsize, QStringLiteral("12"), QStringLiteral("Tearsheet Fontsize")},
 }};
 
 const QString kDefaultPrinterFormat = QStringLiteral("111000");
 
-QString shiftSection(const Workspace& ws, int weekday)
-{
+QString shiftSection(const Workspace& ws, int weekday) {
     return ws.gDayNames[weekday] + QStringLiteral(" Shifts");
 }
 
 // The text of the file, built line by line; every line ends with CR LF.
 class Writer {
 public:
-    void line(const QString& text)
-    {
+    void line(const QString& text) {
         text_ += text;
         text_ += QStringLiteral("\r\n");
     }
-    void row(long long key, const QString& value) { line(QString::number(key) + QLatin1Char('=') + value); }
+    void row(long long key, const QString& value) {
+        line(QString::number(key) + QLatin1Char('=') + value);
+    }
     void section(const QString& name) { line(QLatin1Char('[') + name + QLatin1Char(']')); }
     const QString& text() const { return text_; }
 
@@ -88,13 +91,11 @@ private:
     QString text_;
 };
 
-QString joined(std::initializer_list<QString> fields)
-{
+QString joined(std::initializer_list<QString> fields) {
     return QStringList(fields).join(kBar);
 }
 
-void writeMonthSections(Workspace& ws, Writer& out)
-{
+void writeMonthSections(Workspace& ws, Writer& out) {
     const int days = ws.currentMonthDays();
     out.section(QStringLiteral("Holidays"));
     for (int day = 1; day <= days; ++day) {
@@ -125,8 +126,7 @@ void writeMonthSections(Workspace& ws, Writer& out)
     out.line(QString());
 }
 
-void writeRestrictions(Workspace& ws, Writer& out)
-{
+void writeRestrictions(Workspace& ws, Writer& out) {
     out.section(QStringLiteral("Restrictions"));
     long long number = 0;
     for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
@@ -143,13 +143,12 @@ void writeRestrictions(Workspace& ws, Writer& out)
     out.line(QString());
 }
 
-void writeSettings(Workspace& ws, Context& ctx, Writer& out)
-{
+void writeSettings(Workspace& ws, Context& ctx, Writer& out) {
     out.section(kSettings);
     const QString version = ws.versionText();
     out.line(QStringLiteral("Version=") + version);
-    ctx.registry.setValue(ws.gRegistryBase + QStringLiteral("\\Settings"), QStringLiteral("Version"),
-                          version);
+    ctx.registry.setValue(ws.gRegistryBase + QStringLiteral("\\Settings"),
+                          QStringLiteral("Version"), version);
     ws.gPrinterFormat.clear();
     for (const int value : ws.chkPrint) {
         ws.gPrinterFormat += QString::number(value);
@@ -161,8 +160,7 @@ void writeSettings(Workspace& ws, Context& ctx, Writer& out)
 }
 
 // Every position of the month, whatever its cell holds.
-void writeSchedule(const Workspace& ws, Writer& out)
-{
+void writeSchedule(const Workspace& ws, Writer& out) {
     out.section(QStringLiteral("Schedule"));
     long long number = 0;
     for (int day = 1; day <= ws.currentMonthDays(); ++day) {
@@ -171,7 +169,8 @@ void writeSchedule(const Workspace& ws, Writer& out)
             continue;
         }
         for (int shift = 1; shift <= std::min(ws.gShiftCount[weekday], kMaxShift); ++shift) {
-            for (int slot = 0; slot <= std::min(ws.gShiftAgents[weekday][shift], kMaxSlot); ++slot) {
+            for (int slot = 0; slot <= std::min(ws.gShiftAgents[weekday][shift], kMaxSlot);
+                 ++slot) {
                 out.row(++number, joined({QString::number(day), QString::number(shift),
                                           QString::number(slot), ws.schedule(day, shift, slot)}));
             }
@@ -180,8 +179,8 @@ void writeSchedule(const Workspace& ws, Writer& out)
 }
 
 // A row of a running-number section split into its fields; fields[0] stays empty.
-std::vector<QString> rowFields(const ProfileFile& file, const QString& section, const QString& key)
-{
+std::vector<QString> rowFields(const ProfileFile& file, const QString& section,
+                               const QString& key) {
     std::vector<QString> fields;
     modSplitFields(modReadProfileValue(file, section, key), kBar, fields);
     return fields;
@@ -190,8 +189,7 @@ std::vector<QString> rowFields(const ProfileFile& file, const QString& section, 
 // The indices of a row, each a whole number within [0, limit]; nothing when any is not.
 template <std::size_t N>
 std::optional<std::array<int, N>> indices(const std::vector<QString>& fields,
-                                          const std::array<int, N>& limits)
-{
+                                          const std::array<int, N>& limits) {
     std::array<int, N> result{};
     for (std::size_t i = 0; i < N; ++i) {
         const std::optional<int> value = wholeNumber(fields[i + 1]);
@@ -203,16 +201,14 @@ std::optional<std::array<int, N>> indices(const std::vector<QString>& fields,
     return result;
 }
 
-void eraseHolidaysAndNotes(Workspace& ws)
-{
+void eraseHolidaysAndNotes(Workspace& ws) {
     ws.gNotedText.fill(QString());
     ws.gNoted.fill(0);
     ws.gHolidayName.fill(QString());
     ws.gHoliday.fill(0);
 }
 
-void readAgents(Workspace& ws, const ProfileFile& file)
-{
+void readAgents(Workspace& ws, const ProfileFile& file) {
     const QString section = QStringLiteral("Agents");
     std::vector<QString> keys;
     ws.gAgentCount = modReadKeyNames(file, section, keys);
@@ -230,8 +226,7 @@ void readAgents(Workspace& ws, const ProfileFile& file)
 
 // The file holds agents per shift, the model the highest slot: one less. A count that is
 // no number, or 0 or less, means one agent; the table holds five at most.
-void readShifts(Workspace& ws, const ProfileFile& file)
-{
+void readShifts(Workspace& ws, const ProfileFile& file) {
     for (int weekday = 0; weekday < kWeekdays; ++weekday) {
         const QString section = shiftSection(ws, weekday);
         std::vector<QString> keys;
@@ -241,14 +236,14 @@ void readShifts(Workspace& ws, const ProfileFile& file)
             ws.gShiftText[weekday][shift] = fields[1];
             const std::optional<double> perShift =
                 fields.size() > 2 ? numericValue(fields[2]) : std::nullopt;
-            const int highest = perShift && *perShift > 0 ? roundToInt(*perShift - 1).value_or(kMaxSlot) : 0;
+            const int highest =
+                perShift && *perShift > 0 ? roundToInt(*perShift - 1).value_or(kMaxSlot) : 0;
             ws.gShiftAgents[weekday][shift] = std::min(highest, kMaxSlot);
         }
     }
 }
 
-void readRestrictions(Workspace& ws, const ProfileFile& file)
-{
+void readRestrictions(Workspace& ws, const ProfileFile& file) {
     const QString section = QStringLiteral("Restrictions");
     std::vector<QString> keys;
     const int count = modReadKeyNames(file, section, keys);
@@ -267,8 +262,7 @@ void readRestrictions(Workspace& ws, const ProfileFile& file)
 // Holidays and noted days are read by the key names the file holds, each a day.
 template <std::size_t FlagSlots>
 int readDays(const ProfileFile& file, const QString& section, std::array<int, FlagSlots>& flags,
-             DayTexts& texts)
-{
+             DayTexts& texts) {
     std::vector<QString> keys;
     const int count = modReadKeyNames(file, section, keys);
     for (int i = 1; i <= count; ++i) {
@@ -283,8 +277,7 @@ int readDays(const ProfileFile& file, const QString& section, std::array<int, Fl
     return count > 0 ? 1 : 0;
 }
 
-void readVacations(Workspace& ws, const ProfileFile& file)
-{
+void readVacations(Workspace& ws, const ProfileFile& file) {
     const QString section = QStringLiteral("Vacations");
     std::vector<QString> keys;
     const int count = modReadKeyNames(file, section, keys);
@@ -300,24 +293,24 @@ void readVacations(Workspace& ws, const ProfileFile& file)
     }
 }
 
-void readTitlesAndSettings(Workspace& ws, const ProfileFile& file)
-{
+void readTitlesAndSettings(Workspace& ws, const ProfileFile& file) {
     for (const TitleField& title : kTitleFields) {
         ws.*title.field = modReadProfileValue(file, kTitles, title.key);
     }
     ws.gSavedMonth = modReadProfileValue(file, kSettings, QStringLiteral("Current Month"));
     ws.gSavedYear = modReadProfileValue(file, kSettings, QStringLiteral("Current Year"));
     ws.gPrinterFormat = modReadProfileValue(file, kSettings, QStringLiteral("Printer Format"));
-    const double engine = modVal(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
+    const double engine =
+        modVal(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
     ws.gEngine = roundToInt(engine).value_or(0);
 }
 
-void applyTitleDefaults(Workspace& ws, ProfileFile& file)
-{
+void applyTitleDefaults(Workspace& ws, ProfileFile& file) {
     ProfileValues written;
     for (const TitleDefault& fallback : kTitleDefaults) {
         QString& value = ws.*fallback.field;
-        const bool zeroSize = fallback.field == &Workspace::gTearsheetFontsize && value == QStringLiteral("0");
+        const bool zeroSize =
+            fallback.field == &Workspace::gTearsheetFontsize && value == QStringLiteral("0");
         if (value.isEmpty() || zeroSize) {
             value = fallback.value;
             written.emplace_back(fallback.writtenKey, value);
@@ -330,8 +323,7 @@ void applyTitleDefaults(Workspace& ws, ProfileFile& file)
 
 // The print boxes take the digits of the format; a digit that no box can show leaves its
 // box as it was.
-void applySettings(Workspace& ws)
-{
+void applySettings(Workspace& ws) {
     if (ws.gEngine < 0 || ws.gEngine > 3) {
         ws.gEngine = 0;
     }
@@ -348,8 +340,7 @@ void applySettings(Workspace& ws)
 }
 
 // The schedule is not cleared first: a cell the file does not name keeps what it held.
-void readSchedule(Workspace& ws, const ProfileFile& file)
-{
+void readSchedule(Workspace& ws, const ProfileFile& file) {
     const QString section = QStringLiteral("Schedule");
     std::vector<QString> keys;
     const int count = modReadKeyNames(file, section, keys);
@@ -367,8 +358,7 @@ void readSchedule(Workspace& ws, const ProfileFile& file)
 
 }  // namespace
 
-bool modSaveWorkspace(Workspace& ws, Context& ctx, const QString& path)
-{
+bool modSaveWorkspace(Workspace& ws, Context& ctx, const QString& path) {
     ws.gHasRestrictions = ws.gHasNotedDays = ws.gHasHolidays = ws.gHasVacations = 0;
     Writer out;
     out.section(QStringLiteral("Agents"));
@@ -399,17 +389,17 @@ bool modSaveWorkspace(Workspace& ws, Context& ctx, const QString& path)
     return writeTextFile(path.isEmpty() ? ws.gConfigFile : path, out.text());
 }
 
-void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path)
-{
+void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path) {
     const bool scheduleFile = !path.isEmpty();
     ProfileFile file = ProfileFile::read(scheduleFile ? path : ws.gConfigFile);
     if (scheduleFile && !modReadProfileValue(file, kSettings, QStringLiteral("Version"))
                              .startsWith(QStringLiteral("4.0."))) {
         ctx.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("The file you are attempting to open cannot be read by this "
-                                          "version of the program.  Please open this DKO file using the "
-                                          "version of Desko for Windows with which it was created."),
-                           ctx.dialogs),
+            modWrapMessage(
+                QStringLiteral("The file you are attempting to open cannot be read by this "
+                               "version of the program.  Please open this DKO file using the "
+                               "version of Desko for Windows with which it was created."),
+                ctx.dialogs),
             MsgIcon::Stop, MsgButtons::OK);
         return;
     }
@@ -435,8 +425,7 @@ void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path)
     }
 }
 
-void modTakeSavedMonth(Workspace& ws)
-{
+void modTakeSavedMonth(Workspace& ws) {
     const std::optional<int> month = wholeNumber(ws.gSavedMonth);
     if (month && *month >= 1 && *month <= 12) {
         ws.gCurrentMonth = *month;

@@ -18,8 +18,7 @@ constexpr int kLongestSuffix = 1000;
 // others of the same name plus an empty name in first place; the length grows until all
 // of their prefixes differ, or beyond 1000 characters.
 void buildKeys(const std::vector<QString>& names, const std::vector<QString>& others,
-               std::vector<QString>& keys, int agentCount, int& length)
-{
+               std::vector<QString>& keys, int agentCount, int& length) {
     QHash<QString, std::vector<int>> byName;
     for (int i = 1; i <= agentCount; ++i) {
         byName[names[i]].push_back(i);
@@ -53,8 +52,7 @@ void buildKeys(const std::vector<QString>& names, const std::vector<QString>& ot
 
 }  // namespace
 
-void modBuildAgentKeys(Workspace& ws)
-{
+void modBuildAgentKeys(Workspace& ws) {
     const auto size = static_cast<std::size_t>(ws.gAgentCount) + 1;
     ws.gAgentKey.assign(size, QString());
     ws.gAgentFirstKey.assign(size, QString());
@@ -62,4 +60,3 @@ void modBuildAgentKeys(Workspace& ws)
     buildKeys(ws.gAgentFirst, ws.gAgentLast, ws.gAgentFirstKey, ws.gAgentCount, length);
     buildKeys(ws.gAgentLast, ws.gAgentFirst, ws.gAgentKey, ws.gAgentCount, length);
 }
-

@@ -2,22 +2,19 @@
 
 namespace {
 
-bool isAsciiLetter(QChar c)
-{
+bool isAsciiLetter(QChar c) {
     return (c >= QLatin1Char('A') && c <= QLatin1Char('Z')) ||
            (c >= QLatin1Char('a') && c <= QLatin1Char('z'));
 }
 
 // A letter after one of these starts a word.
-bool startsWord(QChar before)
-{
+bool startsWord(QChar before) {
     return QStringLiteral("\\/_[- ").contains(before);
 }
 
 }  // namespace
 
-QString modProperCase(const QString& text)
-{
+QString modProperCase(const QString& text) {
     if (text.isEmpty()) {
         return text;
     }

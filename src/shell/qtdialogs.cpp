@@ -9,19 +9,18 @@
 
 namespace {
 
-QMessageBox::Icon qtIcon(MsgIcon icon)
-{
+QMessageBox::Icon qtIcon(MsgIcon icon) {
     switch (icon) {
-    case MsgIcon::Stop:
-        return QMessageBox::Critical;
-    case MsgIcon::Question:
-        return QMessageBox::Question;
-    case MsgIcon::Exclamation:
-        return QMessageBox::Warning;
-    case MsgIcon::Information:
-        return QMessageBox::Information;
-    case MsgIcon::None:
-        break;
+        case MsgIcon::Stop:
+            return QMessageBox::Critical;
+        case MsgIcon::Question:
+            return QMessageBox::Question;
+        case MsgIcon::Exclamation:
+            return QMessageBox::Warning;
+        case MsgIcon::Information:
+            return QMessageBox::Information;
+        case MsgIcon::None:
+            break;
     }
     return QMessageBox::NoIcon;
 }
@@ -31,19 +30,18 @@ struct Button {
     MsgAnswer answer;
 };
 
-std::vector<Button> buttonsOf(MsgButtons buttons)
-{
+std::vector<Button> buttonsOf(MsgButtons buttons) {
     switch (buttons) {
-    case MsgButtons::OKCancel:
-        return {{QMessageBox::Ok, MsgAnswer::OK}, {QMessageBox::Cancel, MsgAnswer::Cancel}};
-    case MsgButtons::YesNo:
-        return {{QMessageBox::Yes, MsgAnswer::Yes}, {QMessageBox::No, MsgAnswer::No}};
-    case MsgButtons::YesNoCancel:
-        return {{QMessageBox::Yes, MsgAnswer::Yes},
-                {QMessageBox::No, MsgAnswer::No},
-                {QMessageBox::Cancel, MsgAnswer::Cancel}};
-    case MsgButtons::OK:
-        break;
+        case MsgButtons::OKCancel:
+            return {{QMessageBox::Ok, MsgAnswer::OK}, {QMessageBox::Cancel, MsgAnswer::Cancel}};
+        case MsgButtons::YesNo:
+            return {{QMessageBox::Yes, MsgAnswer::Yes}, {QMessageBox::No, MsgAnswer::No}};
+        case MsgButtons::YesNoCancel:
+            return {{QMessageBox::Yes, MsgAnswer::Yes},
+                    {QMessageBox::No, MsgAnswer::No},
+                    {QMessageBox::Cancel, MsgAnswer::Cancel}};
+        case MsgButtons::OK:
+            break;
     }
     return {{QMessageBox::Ok, MsgAnswer::OK}};
 }
@@ -51,8 +49,7 @@ std::vector<Button> buttonsOf(MsgButtons buttons)
 }  // namespace
 
 MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
-                                int defaultButton)
-{
+                                int defaultButton) {
     const std::vector<Button> choices = buttonsOf(buttons);
     QMessageBox box(qtIcon(icon), QString(), text, QMessageBox::NoButton, parent_);
     for (const Button& choice : choices) {
@@ -70,7 +67,6 @@ MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons bu
     return choices.back().answer;
 }
 
-double QtDialogs::textWidth(const QString& text) const
-{
+double QtDialogs::textWidth(const QString& text) const {
     return QFontMetricsF(parent_ ? parent_->font() : QApplication::font()).horizontalAdvance(text);
 }

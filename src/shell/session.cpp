@@ -5,14 +5,12 @@
 #include <QCoreApplication>
 #include <QDir>
 
-QString modAppPath()
-{
+QString modAppPath() {
     const QString home = qEnvironmentVariable("DESKO_HOME");
     return home.isEmpty() ? QCoreApplication::applicationDirPath() : home;
 }
 
-void modInitSession(Workspace& ws, const QString& appPath)
-{
+void modInitSession(Workspace& ws, const QString& appPath) {
     ws.gVersionMajor = DESKO_VERSION_MAJOR;
     ws.gVersionMinor = DESKO_VERSION_MINOR;
     ws.gVersionRevision = DESKO_VERSION_REVISION;

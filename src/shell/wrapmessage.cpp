@@ -12,8 +12,7 @@ const QString kLineBreak = QStringLiteral("\r\n");
 // Positions count from 1. A cut line ends before the last blank seen, and the count of
 // the text already set out grows by the cut line's length only, so every line after the
 // first keeps the blank it ended at; these lines are the ones users have always seen.
-QString modWrapMessage(const QString& text, const Dialogs& dialogs)
-{
+QString modWrapMessage(const QString& text, const Dialogs& dialogs) {
     if (dialogs.textWidth(text) <= kLineWidth) {
         return text;
     }

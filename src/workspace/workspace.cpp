@@ -1,22 +1,18 @@
 #include "workspace/workspace.h"
 
-int Workspace::currentMonthDays() const
-{
+int Workspace::currentMonthDays() const {
     return gCurrentMonth >= 1 && gCurrentMonth <= 12 ? gMonthDays[gCurrentMonth] : 0;
 }
 
-QString Workspace::currentMonthName() const
-{
+QString Workspace::currentMonthName() const {
     return gCurrentMonth >= 1 && gCurrentMonth <= 12 ? gMonthNames[gCurrentMonth] : QString();
 }
 
-QString Workspace::versionText() const
-{
+QString Workspace::versionText() const {
     return QStringLiteral("%1.%2.%3").arg(gVersionMajor).arg(gVersionMinor).arg(gVersionRevision);
 }
 
-void Workspace::redimAgents(int count)
-{
+void Workspace::redimAgents(int count) {
     const auto size = static_cast<std::size_t>(count) + 1;
     gAgentLast.assign(size, QString());
     gAgentFirst.assign(size, QString());
@@ -27,11 +23,11 @@ void Workspace::redimAgents(int count)
     gRestriction.assign(size, ShiftTable{});
 }
 
-void modInitNameTables(Workspace& ws)
-{
-    ws.gDayNames = {QStringLiteral("Sunday"),   QStringLiteral("Monday"), QStringLiteral("Tuesday"),
-                    QStringLiteral("Wednesday"), QStringLiteral("Thursday"),
-                    QStringLiteral("Friday"),   QStringLiteral("Saturday")};
+void modInitNameTables(Workspace& ws) {
+    ws.gDayNames = {QStringLiteral("Sunday"),   QStringLiteral("Monday"),
+                    QStringLiteral("Tuesday"),  QStringLiteral("Wednesday"),
+                    QStringLiteral("Thursday"), QStringLiteral("Friday"),
+                    QStringLiteral("Saturday")};
     ws.gMonthNames = {QString(),
                       QStringLiteral("January"),
                       QStringLiteral("February"),
@@ -53,8 +49,7 @@ void modInitNameTables(Workspace& ws)
 // leap year, 2100 included, and years before 1993 come out as the sums give them: the
 // remainder keeps the sign of the sum, as the weekday formula everywhere else expects.
 // A month outside 1..12 reads its table entries as unset, so nothing indexes past them.
-void modSetupMonth(Workspace& ws)
-{
+void modSetupMonth(Workspace& ws) {
     const long long y = ws.gCurrentYear;
     const int m = ws.gCurrentMonth;
     const bool knownMonth = m >= 0 && m <= 12;
@@ -79,20 +74,19 @@ void modSetupMonth(Workspace& ws)
         (days == 31 && ws.gFirstWeekday == 5) || (days > 29 && ws.gFirstWeekday == 6) ? 1 : 0;
 }
 
-QString monthTitle(const Workspace& ws)
-{
+QString monthTitle(const Workspace& ws) {
     return ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear) +
            QStringLiteral(" Desko Schedule");
 }
 
-void modDefaultTexts(Workspace& ws)
-{
+void modDefaultTexts(Workspace& ws) {
     const QString title = monthTitle(ws);
     ws.gCalendarTitle = title;
     ws.gGridTitle = title;
     ws.gEmailSubject = title;
     ws.gOutlookSubject = title;
-    ws.gEmailBody = QStringLiteral("You have been assigned the following shifts for the month of ") +
-                    ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear) +
-                    QLatin1Char(':');
+    ws.gEmailBody =
+        QStringLiteral("You have been assigned the following shifts for the month of ") +
+        ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear) +
+        QLatin1Char(':');
 }

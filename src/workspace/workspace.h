@@ -11,13 +11,13 @@
 // 1..n as the rules do. Unset numbers read as 0 and unset texts as empty, which is what
 // every default below gives.
 
-inline constexpr int kWeekdays = 7;       // 0 Sunday .. 6 Saturday
-inline constexpr int kShiftSlots = 7;     // shift 0 unused, 1..6
+inline constexpr int kWeekdays = 7;    // 0 Sunday .. 6 Saturday
+inline constexpr int kShiftSlots = 7;  // shift 0 unused, 1..6
 inline constexpr int kMaxShift = 6;
-inline constexpr int kMaxSlot = 4;        // slots 0..4; the day editor offers 0..3
-inline constexpr int kScheduleDays = 39;  // days 0..38; 1..31 carry data
-inline constexpr int kMonthDaySlots = 32; // days 0..31
-inline constexpr int kHolidaySlots = 38;  // gHoliday runs 0..37
+inline constexpr int kMaxSlot = 4;         // slots 0..4; the day editor offers 0..3
+inline constexpr int kScheduleDays = 39;   // days 0..38; 1..31 carry data
+inline constexpr int kMonthDaySlots = 32;  // days 0..31
+inline constexpr int kHolidaySlots = 38;   // gHoliday runs 0..37
 
 using ShiftTable = std::array<std::array<int, kShiftSlots>, kWeekdays>;
 using ShiftTextTable = std::array<std::array<QString, kShiftSlots>, kWeekdays>;
@@ -25,14 +25,12 @@ using DayFlags = std::array<int, kMonthDaySlots>;
 using DayTexts = std::array<QString, kMonthDaySlots>;
 
 // The index of a schedule cell in the flat table: day + 39 * (shift + 7 * slot).
-constexpr int scheduleIndex(int day, int shift, int slot)
-{
+constexpr int scheduleIndex(int day, int shift, int slot) {
     return day + kScheduleDays * (shift + kShiftSlots * slot);
 }
 inline constexpr int kScheduleCells = scheduleIndex(0, 0, kMaxSlot + 1);
 
-constexpr bool scheduleInRange(long long day, long long shift, long long slot)
-{
+constexpr bool scheduleInRange(long long day, long long shift, long long slot) {
     return day >= 0 && day < kScheduleDays && shift >= 0 && shift < kShiftSlots && slot >= 0 &&
            slot <= kMaxSlot;
 }
@@ -60,7 +58,7 @@ struct Workspace {
     DayTexts gHolidayName{};
     DayFlags gNoted{};
     DayTexts gNotedText{};
-    std::vector<DayFlags> gVacation = std::vector<DayFlags>(1);      // [agent][day]
+    std::vector<DayFlags> gVacation = std::vector<DayFlags>(1);         // [agent][day]
     std::vector<ShiftTable> gRestriction = std::vector<ShiftTable>(1);  // [agent][weekday][shift]
 
     // Constraint summary flags.
@@ -130,9 +128,10 @@ struct Workspace {
     int gDayPickerAgent = 0;
     int gRestrictionAgent = 0;
 
-    QString& schedule(int day, int shift, int slot) { return gSchedule[scheduleIndex(day, shift, slot)]; }
-    const QString& schedule(int day, int shift, int slot) const
-    {
+    QString& schedule(int day, int shift, int slot) {
+        return gSchedule[scheduleIndex(day, shift, slot)];
+    }
+    const QString& schedule(int day, int shift, int slot) const {
         return gSchedule[scheduleIndex(day, shift, slot)];
     }
 

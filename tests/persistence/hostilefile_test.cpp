@@ -14,13 +14,11 @@
 
 namespace {
 
-QByteArray valid(const QByteArray& sections)
-{
+QByteArray valid(const QByteArray& sections) {
     return sections + "[Settings]\r\nVersion=4.0.10\r\nCurrent Month=1\r\nCurrent Year=2027\r\n";
 }
 
-QByteArray rows(const QByteArray& section, int count, const std::function<QByteArray(int)>& row)
-{
+QByteArray rows(const QByteArray& section, int count, const std::function<QByteArray(int)>& row) {
     QByteArray text = "[" + section + "]\r\n";
     for (int i = 1; i <= count; ++i) {
         text += QByteArray::number(i) + "=" + row(i) + "\r\n";
@@ -28,11 +26,11 @@ QByteArray rows(const QByteArray& section, int count, const std::function<QByteA
     return text;
 }
 
-const QByteArray kBadIndices[] = {"-1", "-2147483649", "2147483648", "99999999999999999999",
-                                  "1e300", "nan", "inf", "0x10", "", " ", "seven", "\xff\xfe"};
+const QByteArray kBadIndices[] = {"-1",    "-2147483649", "2147483648", "99999999999999999999",
+                                  "1e300", "nan",         "inf",        "0x10",
+                                  "",      " ",           "seven",      "\xff\xfe"};
 
-QByteArray badIndexRows()
-{
+QByteArray badIndexRows() {
     QByteArray agents = "[Agents]\r\n1=A|a|\r\n2=B|b|\r\n";
     QByteArray restrictions = "[Restrictions]\r\n";
     QByteArray vacations = "[Vacations]\r\n";
@@ -40,7 +38,9 @@ QByteArray badIndexRows()
     QByteArray holidays = "[Holidays]\r\n";
     QByteArray noted = "[Noted Days]\r\n";
     int n = 0;
-    const auto row = [&n](const QByteArray& value) { return QByteArray::number(++n) + "=" + value + "\r\n"; };
+    const auto row = [&n](const QByteArray& value) {
+        return QByteArray::number(++n) + "=" + value + "\r\n";
+    };
     for (const QByteArray& bad : kBadIndices) {
         const int first = n;
         restrictions += row(bad + "|1|1") + row("1|" + bad + "|1") + row("1|1|" + bad);
@@ -72,8 +72,7 @@ struct Case {
 
 // Damaged and hostile files never crash or hang a load, never write out of bounds, and a
 // workspace loaded from one saves again.
-TEST(HostileFiles, LoadWithoutHarm)
-{
+TEST(HostileFiles, LoadWithoutHarm) {
     const Case cases[] = {
         {"indices out of every range", badIndexRows,
          [](const Workspace& w) {
@@ -85,14 +84,21 @@ TEST(HostileFiles, LoadWithoutHarm)
              EXPECT_TRUE(w.gHolidayName[31].isEmpty());
          }},
         {"thousands of agents stop where the key names fill their buffer",
-         [] { return valid(rows("Agents", 5000, [](int i) { return "Name" + QByteArray::number(i) + "|Same|"; })); },
+         [] {
+             return valid(rows("Agents", 5000,
+                               [](int i) { return "Name" + QByteArray::number(i) + "|Same|"; }));
+         },
          [](const Workspace& w) {
              EXPECT_EQ(w.gAgentCount, 1859);
              EXPECT_EQ(w.gAgentKey[1859], QStringLiteral("Name1859"));
              EXPECT_EQ(w.gAgentFirstKey[1], QStringLiteral("Same (Name1.)"));
          }},
         {"more shifts than a day holds, absurd agent counts",
-         [] { return valid(rows("Monday Shifts", 40, [](int i) { return "s" + QByteArray::number(i) + (i % 2 ? "|1e300" : "|-1e300"); })); },
+         [] {
+             return valid(rows("Monday Shifts", 40, [](int i) {
+                 return "s" + QByteArray::number(i) + (i % 2 ? "|1e300" : "|-1e300");
+             }));
+         },
          [](const Workspace& w) {
              EXPECT_EQ(w.gShiftCount[1], 6);
              EXPECT_EQ(w.gShiftAgents[1][1], 4);
@@ -147,8 +153,7 @@ TEST(HostileFiles, LoadWithoutHarm)
 
 // A file that is not there, or is a directory, is refused as a schedule and read as an
 // empty working file; neither changes anything on disk but the working file's defaults.
-TEST(HostileFiles, MissingFilesAndDirectories)
-{
+TEST(HostileFiles, MissingFilesAndDirectories) {
     QTemporaryDir dir;
     for (const QString& name : {QStringLiteral("absent.dko"), QStringLiteral("folder.dko")}) {
         SCOPED_TRACE(name.toStdString());

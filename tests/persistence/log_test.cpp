@@ -11,7 +11,6 @@
 
 #include <string>
 
-
 namespace {
 
 // The file's bytes as they are on disk; a failed comparison prints them readably.

@@ -1,6 +1,6 @@
+#include "persistence/profilefile.h"
 #include "fakes.h"
 #include "persistence/profileapi.h"
-#include "persistence/profilefile.h"
 #include "persistence/textfile.h"
 
 #include <QFile>
@@ -27,8 +27,7 @@ const QString kSample = QStringLiteral(
 
 }  // namespace
 
-TEST(ProfileFile, ReadsValuesAsTheFormatAlwaysHas)
-{
+TEST(ProfileFile, ReadsValuesAsTheFormatAlwaysHas) {
     const ProfileFile file(kSample);
     struct Case {
         const char* section;
@@ -36,14 +35,14 @@ TEST(ProfileFile, ReadsValuesAsTheFormatAlwaysHas)
         const char* value;
     };
     const Case cases[] = {
-        {"Titles", "Calendar Title", "March 2027"},   // blanks trimmed, first of the name
-        {"TITLES", "CALENDAR TITLE", "March 2027"},   // names compare without case
-        {"Titles", "Calendar Notes", "quoted"},       // one pair of quotes removed
+        {"Titles", "Calendar Title", "March 2027"},  // blanks trimmed, first of the name
+        {"TITLES", "CALENDAR TITLE", "March 2027"},  // names compare without case
+        {"Titles", "Calendar Notes", "quoted"},      // one pair of quotes removed
         {"Titles", "Office Grid Title", "single"},
-        {"Titles", "Half", "\"open"},                 // no pair, no removal
+        {"Titles", "Half", "\"open"},  // no pair, no removal
         {"Titles", "Empty", ""},
         {"Titles", "Missing", ""},
-        {"Titles", "stray", ""},                      // lines before a section belong nowhere
+        {"Titles", "stray", ""},  // lines before a section belong nowhere
         {"Titles", "Later", ""},
         {"Settings", "Version", "4.0.10"},
         {"Nowhere", "Version", ""},
@@ -60,8 +59,7 @@ TEST(ProfileFile, ReadsValuesAsTheFormatAlwaysHas)
     EXPECT_TRUE(file.keyNames(QStringLiteral("Holidays")).isEmpty());
 }
 
-TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest)
-{
+TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest) {
     struct Case {
         const char* what;
         QString before;
@@ -71,8 +69,7 @@ TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest)
     };
     const QString text = QStringLiteral("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n");
     const Case cases[] = {
-        {"replaced in place", text, "a", "X",
-         QStringLiteral("[A]\r\nX=new\r\n\r\n[B]\r\ny=2\r\n")},
+        {"replaced in place", text, "a", "X", QStringLiteral("[A]\r\nX=new\r\n\r\n[B]\r\ny=2\r\n")},
         {"added after the section's last key", text, "A", "z",
          QStringLiteral("[A]\r\nx=1\r\nz=new\r\n\r\n[B]\r\ny=2\r\n")},
         {"added to an empty section", QStringLiteral("[A]\r\n[B]\r\n"), "A", "z",
@@ -81,12 +78,13 @@ TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest)
          QStringLiteral("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n[Titles]\r\nGrid Font=new\r\n")},
         {"a new file", QString(), "Titles", "Grid Font",
          QStringLiteral("[Titles]\r\nGrid Font=new\r\n")},
-        {"lines a Windows editor left with LF only", QStringLiteral("[A]\nx=1\n; note\n"), "A",
-         "x", QStringLiteral("[A]\r\nx=new\r\n; note\r\n")},
+        {"lines a Windows editor left with LF only", QStringLiteral("[A]\nx=1\n; note\n"), "A", "x",
+         QStringLiteral("[A]\r\nx=new\r\n; note\r\n")},
     };
     for (const Case& c : cases) {
         ProfileFile file(c.before);
-        file.setValue(QString::fromUtf8(c.section), QString::fromUtf8(c.key), QStringLiteral("new"));
+        file.setValue(QString::fromUtf8(c.section), QString::fromUtf8(c.key),
+                      QStringLiteral("new"));
         EXPECT_EQ(file.text(), c.after) << c.what;
         EXPECT_EQ(file.value(QString::fromUtf8(c.section), QString::fromUtf8(c.key)),
                   QStringLiteral("new"))
@@ -94,8 +92,7 @@ TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest)
     }
 }
 
-TEST(ProfileApi, KeyNamesAndValuesPassThroughTheirBuffers)
-{
+TEST(ProfileApi, KeyNamesAndValuesPassThroughTheirBuffers) {
     QString text = QStringLiteral("[Agents]\r\n");
     for (int i = 1; i <= 3000; ++i) {
         text += QString::number(i) + QStringLiteral("=x\r\n");
@@ -119,8 +116,7 @@ TEST(ProfileApi, KeyNamesAndValuesPassThroughTheirBuffers)
               QStringLiteral("before"));
 }
 
-TEST(ProfileApi, SplitFields)
-{
+TEST(ProfileApi, SplitFields) {
     struct Case {
         const char* text;
         const char* delimiter;
@@ -128,7 +124,9 @@ TEST(ProfileApi, SplitFields)
         QStringList fields;
     };
     const Case cases[] = {
-        {"Smith|John|js@example.org", "|", 3,
+        {"Smith|John|js@example.org",
+         "|",
+         3,
          {QStringLiteral("Smith"), QStringLiteral("John"), QStringLiteral("js@example.org")}},
         {"no delimiter", "|", 1, {QStringLiteral("no delimiter")}},
         {"", "|", 1, {QString()}},
@@ -157,8 +155,7 @@ TEST(ProfileApi, SplitFields)
     EXPECT_EQ(text, QStringLiteral("two"));
 }
 
-TEST(TextFile, ReadsUtf8AndWindowsTextAndWritesWholeFilesOnly)
-{
+TEST(TextFile, ReadsUtf8AndWindowsTextAndWritesWholeFilesOnly) {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("names.ini"));
     struct Case {
@@ -168,7 +165,8 @@ TEST(TextFile, ReadsUtf8AndWindowsTextAndWritesWholeFilesOnly)
     const Case cases[] = {
         {QByteArray("M\xc3\xbcller \xe2\x82\xac"), QStringLiteral("M\u00fcller \u20ac")},
         {QByteArray("\xef\xbb\xbfwith mark"), QStringLiteral("with mark")},
-        {QByteArray("M\xfcller \x80 \x9c \x81"), QStringLiteral("M\u00fcller \u20ac \u0153 \u0081")},
+        {QByteArray("M\xfcller \x80 \x9c \x81"),
+         QStringLiteral("M\u00fcller \u20ac \u0153 \u0081")},
     };
     for (const Case& c : cases) {
         QFile file(path);
@@ -182,7 +180,8 @@ TEST(TextFile, ReadsUtf8AndWindowsTextAndWritesWholeFilesOnly)
 
     ASSERT_TRUE(writeTextFile(path, QStringLiteral("Z\u00fcrich\r\n")));
     EXPECT_EQ(readTextFile(path), QStringLiteral("Z\u00fcrich\r\n"));
-    EXPECT_FALSE(writeTextFile(dir.filePath(QStringLiteral("no/such/dir/x.ini")), QStringLiteral("x")));
+    EXPECT_FALSE(
+        writeTextFile(dir.filePath(QStringLiteral("no/such/dir/x.ini")), QStringLiteral("x")));
     EXPECT_FALSE(writeTextFile(dir.path(), QStringLiteral("x")));
 
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser);

@@ -1,6 +1,6 @@
+#include "persistence/workspacefile.h"
 #include "fakes.h"
 #include "persistence/textfile.h"
-#include "persistence/workspacefile.h"
 #include "shell/session.h"
 #include "workspace/workspace.h"
 
@@ -13,8 +13,7 @@
 
 namespace {
 
-QString crlf(const char* text)
-{
+QString crlf(const char* text) {
     return QString::fromUtf8(text).replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
 }
 
@@ -96,8 +95,7 @@ class WorkspaceFileTest : public ::testing::Test {
 protected:
     void SetUp() override { ws = freshWorkspace(); }
 
-    Workspace freshWorkspace() const
-    {
+    Workspace freshWorkspace() const {
         Workspace fresh;
         modInitNameTables(fresh);
         modInitSession(fresh, dir.path());
@@ -106,8 +104,7 @@ protected:
 
     // February 2027 starts on a Monday: two agents, a Monday and a Saturday shift, one of
     // each constraint inside the month and one beyond its end.
-    void fillOffice()
-    {
+    void fillOffice() {
         ws.gCurrentYear = 2027;
         ws.gCurrentMonth = 2;
         modSetupMonth(ws);
@@ -159,28 +156,29 @@ protected:
 
     QString path(const char* name) const { return dir.filePath(QString::fromUtf8(name)); }
 
-    void write(const QString& file, const QString& text) const { ASSERT_TRUE(writeTextFile(file, text)); }
+    void write(const QString& file, const QString& text) const {
+        ASSERT_TRUE(writeTextFile(file, text));
+    }
 
     QTemporaryDir dir;
     TestServices s;
     Workspace ws;
 };
 
-TEST_F(WorkspaceFileTest, SavesEverySectionByteForByte)
-{
+TEST_F(WorkspaceFileTest, SavesEverySectionByteForByte) {
     fillOffice();
     ASSERT_TRUE(modSaveWorkspace(ws, s.ctx, path("office.dko")));
     EXPECT_EQ(readTextFile(path("office.dko")), crlf(kBody) + crlf(kSchedule));
     EXPECT_EQ(ws.gPrinterFormat, QStringLiteral("101001"));
-    EXPECT_EQ(s.registry.value(ws.gRegistryBase + QStringLiteral("\\Settings"), QStringLiteral("Version")),
+    EXPECT_EQ(s.registry.value(ws.gRegistryBase + QStringLiteral("\\Settings"),
+                               QStringLiteral("Version")),
               QStringLiteral("4.0.10"));
 
     ASSERT_TRUE(modSaveWorkspace(ws, s.ctx, QString()));
     EXPECT_EQ(readTextFile(ws.gConfigFile), crlf(kBody));
 }
 
-TEST_F(WorkspaceFileTest, SaveRecomputesTheSummaryFlags)
-{
+TEST_F(WorkspaceFileTest, SaveRecomputesTheSummaryFlags) {
     fillOffice();
     ws.gHoliday[15] = 0;
     ws.gNoted[3] = 0;
@@ -196,8 +194,7 @@ TEST_F(WorkspaceFileTest, SaveRecomputesTheSummaryFlags)
     EXPECT_EQ(ws.gHasRestrictions, 0);
 }
 
-TEST_F(WorkspaceFileTest, ScheduleFileComesBackWholeAndSavesTheSameBytes)
-{
+TEST_F(WorkspaceFileTest, ScheduleFileComesBackWholeAndSavesTheSameBytes) {
     write(path("office.dko"), crlf(kBody) + crlf(kSchedule));
     modLoadWorkspace(ws, s.ctx, path("office.dko"));
 
@@ -223,8 +220,7 @@ TEST_F(WorkspaceFileTest, ScheduleFileComesBackWholeAndSavesTheSameBytes)
     EXPECT_EQ(readTextFile(path("again.dko")), crlf(kBody) + crlf(kSchedule));
 }
 
-TEST_F(WorkspaceFileTest, WorkingFileKeepsTheMonthAndTheScheduleAsTheyAre)
-{
+TEST_F(WorkspaceFileTest, WorkingFileKeepsTheMonthAndTheScheduleAsTheyAre) {
     fillOffice();
     write(ws.gConfigFile, crlf(kBody) + crlf(kSchedule));
     Workspace loaded = freshWorkspace();
@@ -241,8 +237,7 @@ TEST_F(WorkspaceFileTest, WorkingFileKeepsTheMonthAndTheScheduleAsTheyAre)
     EXPECT_EQ(loaded.gAgentCount, 2);
 }
 
-TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead)
-{
+TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead) {
     const QString refusal = QStringLiteral(
         "The file you are attempting to open cannot be read by this version of the program.  "
         "Please open this DKO file using the version of Desko for Windows with which it was "
@@ -251,11 +246,12 @@ TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead)
         const char* version;
         bool read;
     };
-    const Case cases[] = {{"4.0.10", true}, {"4.0.7", true}, {"4.0.", true},  {"4.0", false},
+    const Case cases[] = {{"4.0.10", true}, {"4.0.7", true},  {"4.0.", true}, {"4.0", false},
                           {"4.1.0", false}, {"3.9.9", false}, {"", false},    {"v4.0.10", false}};
     for (const Case& c : cases) {
         QString text = crlf(kBody);
-        text.replace(QStringLiteral("Version=4.0.10"), QStringLiteral("Version=") + QString::fromUtf8(c.version));
+        text.replace(QStringLiteral("Version=4.0.10"),
+                     QStringLiteral("Version=") + QString::fromUtf8(c.version));
         write(path("other.dko"), text);
         TestServices services;
         Workspace loaded = freshWorkspace();
@@ -268,8 +264,9 @@ TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead)
         }
         ASSERT_EQ(services.dialogs.shown.size(), 1U) << c.version;
         const auto& box = services.dialogs.shown.front();
-        EXPECT_EQ(QString(box.text).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).simplified(),
-                  refusal.simplified());
+        EXPECT_EQ(
+            QString(box.text).replace(QStringLiteral("\r\n"), QStringLiteral(" ")).simplified(),
+            refusal.simplified());
         EXPECT_TRUE(box.text.contains(QStringLiteral("\r\n")));  // long enough to be wrapped
         EXPECT_EQ(box.icon, MsgIcon::Stop);
         EXPECT_EQ(box.buttons, MsgButtons::OK);
@@ -286,16 +283,14 @@ TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead)
 
 // Each row is the sections of a schedule file, followed by the settings of a valid version
 // where the row has none, and what loading it must leave in the Workspace.
-TEST_F(WorkspaceFileTest, ReadsHandEditedFilesAsTheyHaveAlwaysBeenRead)
-{
+TEST_F(WorkspaceFileTest, ReadsHandEditedFilesAsTheyHaveAlwaysBeenRead) {
     struct Case {
         const char* what;
         const char* sections;
         std::function<void(const Workspace&)> check;
     };
     const Case cases[] = {
-        {"a gap in the agent numbers loses the highest row",
-         "[Agents]\n1=A|a|\n2=B|b|\n4=D|d|\n",
+        {"a gap in the agent numbers loses the highest row", "[Agents]\n1=A|a|\n2=B|b|\n4=D|d|\n",
          [](const Workspace& w) {
              EXPECT_EQ(w.gAgentCount, 3);
              EXPECT_EQ(w.gAgentLast[2], QStringLiteral("B"));
@@ -325,8 +320,7 @@ TEST_F(WorkspaceFileTest, ReadsHandEditedFilesAsTheyHaveAlwaysBeenRead)
              EXPECT_EQ(w.gShiftAgents[1], (std::array<int, 7>{0, 0, 0, 0, 0, 2, 4}));
              EXPECT_EQ(w.gShiftText[1][4], QStringLiteral("d"));
          }},
-        {"a pipe in a shift text shifts the count",
-         "[Friday Shifts]\n1=9am|5pm|2\n",
+        {"a pipe in a shift text shifts the count", "[Friday Shifts]\n1=9am|5pm|2\n",
          [](const Workspace& w) {
              EXPECT_EQ(w.gShiftText[5][1], QStringLiteral("9am"));
              EXPECT_EQ(w.gShiftAgents[5][1], 0);
@@ -394,10 +388,10 @@ TEST_F(WorkspaceFileTest, ReadsHandEditedFilesAsTheyHaveAlwaysBeenRead)
     }
 }
 
-TEST_F(WorkspaceFileTest, MissingDefaultsAreWrittenBackUnderTheirOwnKeys)
-{
-    const QString before = crlf("[Agents]\n1=A|a|\n\n[Titles]\nCalendar Title=Mine\n"
-                                "Office Grid Font=\nTearsheet Fontsize=0\n\n[Settings]\nVersion=4.0.10\n");
+TEST_F(WorkspaceFileTest, MissingDefaultsAreWrittenBackUnderTheirOwnKeys) {
+    const QString before = crlf(
+        "[Agents]\n1=A|a|\n\n[Titles]\nCalendar Title=Mine\n"
+        "Office Grid Font=\nTearsheet Fontsize=0\n\n[Settings]\nVersion=4.0.10\n");
     write(path("bare.dko"), before);
     QFile::setPermissions(path("bare.dko"), QFile::ReadOwner);
     modLoadWorkspace(ws, s.ctx, path("bare.dko"));
@@ -406,11 +400,13 @@ TEST_F(WorkspaceFileTest, MissingDefaultsAreWrittenBackUnderTheirOwnKeys)
     EXPECT_EQ(ws.gTearsheetFontsize, QStringLiteral("12"));
     EXPECT_EQ(ws.gCalendarTitle, QStringLiteral("Mine"));
     // A read-only file is made writable first; the grid's defaults land under stray keys.
-    EXPECT_EQ(readTextFile(path("bare.dko")),
-              crlf("[Agents]\n1=A|a|\n\n[Titles]\nCalendar Title=Mine\nOffice Grid Font=\n"
-                   "Tearsheet Fontsize=12\nCalendar Font=Times New Roman\nGrid Font=Times New Roman\n"
-                   "Tearsheet Font=Times New Roman\nCalendar Copies=1\nGrid Copies=1\n"
-                   "Calendar Use First Name=0\nCalendar Hide Time Text=0\n\n[Settings]\nVersion=4.0.10\n"));
+    EXPECT_EQ(
+        readTextFile(path("bare.dko")),
+        crlf("[Agents]\n1=A|a|\n\n[Titles]\nCalendar Title=Mine\nOffice Grid Font=\n"
+             "Tearsheet Fontsize=12\nCalendar Font=Times New Roman\nGrid Font=Times New Roman\n"
+             "Tearsheet Font=Times New Roman\nCalendar Copies=1\nGrid Copies=1\n"
+             "Calendar Use First Name=0\nCalendar Hide Time "
+             "Text=0\n\n[Settings]\nVersion=4.0.10\n"));
 
     // The next full save writes the grid's own keys and drops the stray ones.
     modSaveWorkspace(ws, s.ctx, path("bare.dko"));
@@ -419,8 +415,7 @@ TEST_F(WorkspaceFileTest, MissingDefaultsAreWrittenBackUnderTheirOwnKeys)
     EXPECT_FALSE(saved.contains(QStringLiteral("\r\nGrid Font=")));
 }
 
-TEST_F(WorkspaceFileTest, UnwritableTargetsKeepWhatTheyHeld)
-{
+TEST_F(WorkspaceFileTest, UnwritableTargetsKeepWhatTheyHeld) {
     fillOffice();
     write(path("locked.dko"), QStringLiteral("old contents\r\n"));
     QFile::setPermissions(path("locked.dko"), QFile::ReadOwner);
@@ -432,12 +427,12 @@ TEST_F(WorkspaceFileTest, UnwritableTargetsKeepWhatTheyHeld)
     EXPECT_FALSE(modSaveWorkspace(ws, s.ctx, dir.path()));
 }
 
-TEST_F(WorkspaceFileTest, ReadsAFileFromAWindowsMachine)
-{
+TEST_F(WorkspaceFileTest, ReadsAFileFromAWindowsMachine) {
     QFile file(path("windows.dko"));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[Agents]\r\n1=M\xfcller|J\xf6rg|\r\n\n[Titles]\r\nCalendar Notes=Caf\xe9 \x93open\x94\r\n"
-               "[Settings]\r\nVersion=4.0.10\r\n");
+    file.write(
+        "[Agents]\r\n1=M\xfcller|J\xf6rg|\r\n\n[Titles]\r\nCalendar Notes=Caf\xe9 \x93open\x94\r\n"
+        "[Settings]\r\nVersion=4.0.10\r\n");
     file.close();
     modLoadWorkspace(ws, s.ctx, path("windows.dko"));
     EXPECT_EQ(ws.gAgentKey[1], QStringLiteral("M\u00fcller"));

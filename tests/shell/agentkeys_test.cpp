@@ -17,8 +17,7 @@ struct Keys {
     QStringList firstKeys;
 };
 
-Keys keysOf(std::initializer_list<Name> names)
-{
+Keys keysOf(std::initializer_list<Name> names) {
     Workspace ws;
     ws.gAgentCount = static_cast<int>(names.size());
     ws.redimAgents(ws.gAgentCount);
@@ -37,8 +36,7 @@ Keys keysOf(std::initializer_list<Name> names)
     return result;
 }
 
-QStringList list(std::initializer_list<const char*> texts)
-{
+QStringList list(std::initializer_list<const char*> texts) {
     QStringList result;
     for (const char* text : texts) {
         result.append(QString::fromUtf8(text));
@@ -48,8 +46,7 @@ QStringList list(std::initializer_list<const char*> texts)
 
 }  // namespace
 
-TEST(AgentKeys, SuffixesFollowTheSharedCounter)
-{
+TEST(AgentKeys, SuffixesFollowTheSharedCounter) {
     struct Case {
         const char* what;
         Keys got;
@@ -59,19 +56,21 @@ TEST(AgentKeys, SuffixesFollowTheSharedCounter)
     const Case cases[] = {
         {"no shared names", keysOf({{"Brown", "Al"}, {"Smith", "Jo"}}), list({"Brown", "Smith"}),
          list({"Al", "Jo"})},
-        {"two Smiths with different initials",
-         keysOf({{"Smith", "Adam"}, {"Smith", "John"}}), list({"Smith (A.)", "Smith (J.)"}),
-         list({"Adam", "John"})},
+        {"two Smiths with different initials", keysOf({{"Smith", "Adam"}, {"Smith", "John"}}),
+         list({"Smith (A.)", "Smith (J.)"}), list({"Adam", "John"})},
         {"two Smiths of one initial share one key", keysOf({{"Smith", "Jane"}, {"Smith", "John"}}),
          list({"Smith (J.)", "Smith (J.)"}), list({"Jane", "John"})},
         {"three Smiths lengthen every later suffix",
-         keysOf({{"Smith", "Adam"}, {"Smith", "Jane"}, {"Smith", "John"}, {"Young", "Bo"},
+         keysOf({{"Smith", "Adam"},
+                 {"Smith", "Jane"},
+                 {"Smith", "John"},
+                 {"Young", "Bo"},
                  {"Young", "Cy"}}),
          list({"Smith (Ad.)", "Smith (Ja.)", "Smith (Jo.)", "Young (Bo.)", "Young (Cy.)"}),
          list({"Adam", "Jane", "John", "Bo", "Cy"})},
         {"a first name of three agents carries its length into the last-name keys",
-         keysOf({{"Green", "Ann"}, {"Grey", "Ann"}, {"Gray", "Ann"}, {"Lee", "Bob"},
-                 {"Lee", "Bill"}}),
+         keysOf(
+             {{"Green", "Ann"}, {"Grey", "Ann"}, {"Gray", "Ann"}, {"Lee", "Bob"}, {"Lee", "Bill"}}),
          list({"Green", "Grey", "Gray", "Lee (Bob.)", "Lee (Bill.)"}),
          list({"Ann (Gre.)", "Ann (Gre.)", "Ann (Gray.)", "Bob", "Bill"})},
         {"a name shorter than the suffix is taken whole",
@@ -87,15 +86,14 @@ TEST(AgentKeys, SuffixesFollowTheSharedCounter)
 }
 
 // Three agents of one full name never come apart: the suffix grows to its limit and stops.
-TEST(AgentKeys, IdenticalAgentsStopAtTheLongestSuffix)
-{
-    const Keys got = keysOf({{"Smith", "John"}, {"Smith", "John"}, {"Smith", "John"}, {"Zed", "Al"}});
+TEST(AgentKeys, IdenticalAgentsStopAtTheLongestSuffix) {
+    const Keys got =
+        keysOf({{"Smith", "John"}, {"Smith", "John"}, {"Smith", "John"}, {"Zed", "Al"}});
     EXPECT_EQ(got.firstKeys, list({"John (Smith.)", "John (Smith.)", "John (Smith.)", "Al"}));
     EXPECT_EQ(got.keys, list({"Smith (John.)", "Smith (John.)", "Smith (John.)", "Zed"}));
 }
 
-TEST(AgentKeys, NoAgentsLeaveOnlyIndexZero)
-{
+TEST(AgentKeys, NoAgentsLeaveOnlyIndexZero) {
     Workspace ws;
     modBuildAgentKeys(ws);
     ASSERT_EQ(ws.gAgentKey.size(), 1U);

@@ -5,8 +5,7 @@
 #include <gtest/gtest.h>
 
 // The scripted dialogs measure 7 pixels a character: a line holds 50 characters.
-TEST(WrapMessage, BreaksAtTheLastBlankAndKeepsTheBlankOfLaterLines)
-{
+TEST(WrapMessage, BreaksAtTheLastBlankAndKeepsTheBlankOfLaterLines) {
     const QString a(30, QLatin1Char('a'));
     const QString b(30, QLatin1Char('b'));
     const QString c(30, QLatin1Char('c'));
@@ -21,7 +20,8 @@ TEST(WrapMessage, BreaksAtTheLastBlankAndKeepsTheBlankOfLaterLines)
         {longWord, longWord},  // no blank to break at
         {a + QLatin1Char(' ') + b + QLatin1Char(' ') + c,
          a + QStringLiteral("\r\n") + b + QStringLiteral(" \r\n") + c},
-        {QLatin1Char(' ') + longWord, QLatin1Char(' ') + longWord},  // the only blank starts the line
+        {QLatin1Char(' ') + longWord,
+         QLatin1Char(' ') + longWord},  // the only blank starts the line
         {QStringLiteral("x ") + longWord, QStringLiteral("x\r\n") + longWord},
         {a + QLatin1Char(' ') + longWord, a + QStringLiteral("\r\n") + longWord},
     };
@@ -31,8 +31,7 @@ TEST(WrapMessage, BreaksAtTheLastBlankAndKeepsTheBlankOfLaterLines)
     }
 }
 
-TEST(ProperCase, TidiesPathsAndNames)
-{
+TEST(ProperCase, TidiesPathsAndNames) {
     struct Case {
         const char* text;
         const char* tidied;
@@ -45,7 +44,10 @@ TEST(ProperCase, TidiesPathsAndNames)
         {"o'neil.example.ORG", "O'neil.example.org"},
         {".[hidden]", "[Hidden]"},
         {".hidden", ".hidden"},
-        {"\xc3\xbc" "BER \xc3\x84RGER", "\xc3\x9c" "ber \xc3\x84rger"},  // only A to Z change later on
+        {"\xc3\xbc"
+         "BER \xc3\x84RGER",
+         "\xc3\x9c"
+         "ber \xc3\x84rger"},  // only A to Z change later on
     };
     for (const Case& c : cases) {
         EXPECT_EQ(modProperCase(QString::fromUtf8(c.text)), QString::fromUtf8(c.tidied)) << c.text;

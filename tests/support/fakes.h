@@ -12,8 +12,7 @@
 #include <ostream>
 
 // Test failures print texts as text.
-inline void PrintTo(const QString& text, std::ostream* os)
-{
+inline void PrintTo(const QString& text, std::ostream* os) {
     *os << '"' << text.toStdString() << '"';
 }
 
@@ -38,8 +37,7 @@ public:
     std::vector<Shown> shown;
 
     MsgAnswer messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
-                         int defaultButton) override
-    {
+                         int defaultButton) override {
         shown.push_back({text, icon, buttons, defaultButton});
         if (answers.empty()) {
             return buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;

@@ -6,8 +6,7 @@
 
 namespace {
 
-Workspace monthOf(int year, int month)
-{
+Workspace monthOf(int year, int month) {
     Workspace ws;
     modInitNameTables(ws);
     ws.gCurrentYear = year;
@@ -20,8 +19,7 @@ Workspace monthOf(int year, int month)
 
 // Between the base year and 2099 the calendar's own arithmetic must agree with the real
 // calendar for every month, and a sixth row is needed exactly when the weeks overflow five.
-TEST(SetupMonth, AgreesWithTheRealCalendarFrom1993To2099)
-{
+TEST(SetupMonth, AgreesWithTheRealCalendarFrom1993To2099) {
     for (int year = 1993; year <= 2099; ++year) {
         for (int month = 1; month <= 12; ++month) {
             const Workspace ws = monthOf(year, month);
@@ -34,8 +32,7 @@ TEST(SetupMonth, AgreesWithTheRealCalendarFrom1993To2099)
     }
 }
 
-TEST(SetupMonth, KeepsItsOwnLeapRuleAndOddYears)
-{
+TEST(SetupMonth, KeepsItsOwnLeapRuleAndOddYears) {
     struct Case {
         int year;
         int month;
@@ -44,13 +41,13 @@ TEST(SetupMonth, KeepsItsOwnLeapRuleAndOddYears)
         int sixRows;
     };
     const Case cases[] = {
-        {1996, 1, 1, 31, 0},  // Monday: the correction adds nothing before the leap day
-        {1996, 3, 5, 31, 1},  // the leap day lies before March
-        {2100, 2, 1, 29, 0},  // every fourth year leaps, 2100 too
-        {2100, 3, 2, 31, 0},  // so March 2100 starts a day later than the real one
-        {2027, 1, 5, 31, 1},  // a Friday start of a 31-day month spills into a sixth row
-        {2032, 2, 0, 29, 0},  // February never needs six rows
-        {1992, 1, -3, 31, 0}, // before the base the remainder keeps its sign
+        {1996, 1, 1, 31, 0},   // Monday: the correction adds nothing before the leap day
+        {1996, 3, 5, 31, 1},   // the leap day lies before March
+        {2100, 2, 1, 29, 0},   // every fourth year leaps, 2100 too
+        {2100, 3, 2, 31, 0},   // so March 2100 starts a day later than the real one
+        {2027, 1, 5, 31, 1},   // a Friday start of a 31-day month spills into a sixth row
+        {2032, 2, 0, 29, 0},   // February never needs six rows
+        {1992, 1, -3, 31, 0},  // before the base the remainder keeps its sign
     };
     for (const Case& c : cases) {
         const Workspace ws = monthOf(c.year, c.month);
@@ -60,8 +57,7 @@ TEST(SetupMonth, KeepsItsOwnLeapRuleAndOddYears)
     }
 }
 
-TEST(SetupMonth, YearsFarOutsideAndUnknownMonthsStayInBounds)
-{
+TEST(SetupMonth, YearsFarOutsideAndUnknownMonthsStayInBounds) {
     for (const int year : {-2147483647, -5000, 0, 1, 1900, 99999, 2147483647}) {
         for (const int month : {-1, 0, 1, 2, 12, 13, 1000}) {
             const Workspace ws = monthOf(year, month);
@@ -72,8 +68,7 @@ TEST(SetupMonth, YearsFarOutsideAndUnknownMonthsStayInBounds)
     }
 }
 
-TEST(DefaultTexts, OverwriteFiveTextsAndLeaveTheRest)
-{
+TEST(DefaultTexts, OverwriteFiveTextsAndLeaveTheRest) {
     Workspace ws = monthOf(2027, 3);
     ws.gCalendarTitle = QStringLiteral("old");
     ws.gEmailBody = QStringLiteral("old");
@@ -86,8 +81,9 @@ TEST(DefaultTexts, OverwriteFiveTextsAndLeaveTheRest)
     EXPECT_EQ(ws.gGridTitle, title);
     EXPECT_EQ(ws.gEmailSubject, title);
     EXPECT_EQ(ws.gOutlookSubject, title);
-    EXPECT_EQ(ws.gEmailBody,
-              QStringLiteral("You have been assigned the following shifts for the month of March 2027:"));
+    EXPECT_EQ(
+        ws.gEmailBody,
+        QStringLiteral("You have been assigned the following shifts for the month of March 2027:"));
     EXPECT_EQ(ws.gOutlookBody, QStringLiteral("kept body"));
     EXPECT_EQ(ws.gCalendarNotes, QStringLiteral("kept notes"));
     EXPECT_EQ(ws.gGridNotes, QStringLiteral("kept grid notes"));
