@@ -57,38 +57,8 @@ TEST_F(LogTest, RunHeaderAndClosingLineByteForByte) {
     s.clock.time = QDateTime(QDate(2000, 3, 22), QTime(17, 2, 45));
     modLogClose(ws, s.ctx);
 
-    const std::string expected =
-        "[09:14:03]     ____________________________________________\r\n"
-        "[09:14:03]                                                 \r\n"
-        "[09:14:03]     Desko for Windows rev 4.0\r\n"
-        "[09:14:03]     Copyright (C) 2026 the Desko developers\r\n"
-        "[09:14:03]     ____________________________________________\r\n"
-        "[09:14:03]                                                 \r\n"
-        "[09:14:03]     Opening Desko40.log on 03/21/2000\r\n"
-        "[09:14:03]     Windows version is Linux \r\n"
-        "[09:14:03]     Windows build is 6.1\r\n"
-        "[09:14:03]     Windows drive is /\r\n"
-        "[09:14:03]     Windows directory is /usr/SHARE\r\n"
-        "[09:14:03]     System directory is \r\n"
-        "[09:14:03]     Desktop directory is /Home/Ann/Desktop\r\n"
-        "[09:14:03]     Start Menu directory is \r\n"
-        "[09:14:03]     Machine name is frontdesk\r\n"
-        "[09:14:03]     IP address is not found\r\n"
-        "[09:14:03]     Account is ann\r\n"
-        "[09:14:03]     Account does not have administrative rights\r\n"
-        "[09:14:03]     Total disk space on C: is 51200MB\r\n"
-        "[09:14:03]     Free disk space on C: is MB\r\n"
-        "[09:14:03]     Physical memory is 16384MB\r\n"
-        "[09:14:03]     Default MAPI profile is Office\r\n"
-        "[09:14:03]     Outlook is installed\r\n"
-        "[09:14:03]     Software build is 4.0.10\r\n"
-        "[09:14:03]     Software path is /Opt/Desko/Bin\r\n"
-        "[09:14:03]     Software base registry key is HKLM\\Software\\Tavrel Software\\Desko "
-        "for Windows rev 4.0\r\n"
-        "[09:14:03]     Software startup switch is /Home/Ann/June.dko\r\n"
-        "[17:02:45]     Closing Desko40.log on 03/22/2000\r\n";
     // The log did not exist before: the first line created it.
-    EXPECT_EQ(fileBytes(ws.gLogFile), expected);
+    EXPECT_EQ(fileBytes(ws.gLogFile), golden("runheader.log").toStdString());
 }
 
 TEST_F(LogTest, RunHeaderOtherWordings) {
@@ -129,53 +99,37 @@ TEST_F(LogTest, StatusCutsOneFinalPointInTheCallersText) {
     }
 }
 
-TEST_F(LogTest, StatusAppendsToExistingContentInUtf8) {
-    {
-        QFile file(ws.gLogFile);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("[08:00:00]     Earlier run\r\n");
-    }
-
-    modStatus(ws, s.ctx, QStringLiteral("Saving vacations for Zoë."));
-
-    EXPECT_EQ(fileBytes(ws.gLogFile),
-              "[08:00:00]     Earlier run\r\n"
-              "[09:14:03]     Saving vacations for Zo\xc3\xab\r\n");
-}
-
-TEST_F(LogTest, LogInMissingDirectoryLosesTheLine) {
-    ws.gLogFile = dir.filePath(QStringLiteral("gone/Desko40.log"));
-    QString text = QStringLiteral("Printing the full calendar.");
-
-    modStatus(ws, s.ctx, text);
-
-    EXPECT_EQ(text.toStdString(), "Printing the full calendar");
-    EXPECT_FALSE(QFile::exists(ws.gLogFile));
-    EXPECT_FALSE(QDir(dir.filePath(QStringLiteral("gone"))).exists());
-}
-
-TEST_F(LogTest, ReadOnlyLogLosesTheLine) {
-    {
-        QFile file(ws.gLogFile);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("[08:00:00]     Earlier run\r\n");
-    }
-    ASSERT_TRUE(QFile::setPermissions(ws.gLogFile, QFileDevice::ReadOwner));
-
-    modStatus(ws, s.ctx, QStringLiteral("Exporting the schedule for March"));
-
-    EXPECT_EQ(fileBytes(ws.gLogFile), "[08:00:00]     Earlier run\r\n");
-}
-
-TEST_F(LogTest, RunOverMidnightShowsTimesGoingBackWithoutADateLine) {
+// Lines append in UTF-8, each with its own time, even when the clock passes midnight.
+TEST_F(LogTest, StatusAppendsLinesToWhatIsThere) {
+    QFile file(ws.gLogFile);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[08:00:00]     Earlier run\r\n");
+    file.close();
     s.clock.time = QDateTime(QDate(2000, 3, 31), QTime(23, 59, 58));
-    modStatus(ws, s.ctx, QStringLiteral("Generating the schedule for April"));
+    modStatus(ws, s.ctx, QStringLiteral("Saving vacations for Zo\u00eb."));
     s.clock.time = QDateTime(QDate(2000, 4, 1), QTime(0, 0, 1));
     modStatus(ws, s.ctx, QStringLiteral("Reviewing the schedule for April"));
 
     EXPECT_EQ(fileBytes(ws.gLogFile),
-              "[23:59:58]     Generating the schedule for April\r\n"
+              "[08:00:00]     Earlier run\r\n"
+              "[23:59:58]     Saving vacations for Zo\xc3\xab\r\n"
               "[00:00:01]     Reviewing the schedule for April\r\n");
+}
+
+// A log that cannot be written loses the line and nothing else happens; a read-only log
+// stays as it was for every user.
+TEST_F(LogTest, UnwritableLogLosesTheLine) {
+    QFile file(ws.gLogFile);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[08:00:00]     Earlier run\r\n");
+    file.close();
+    ASSERT_TRUE(QFile::setPermissions(ws.gLogFile, QFileDevice::ReadOwner));
+    modStatus(ws, s.ctx, QStringLiteral("Exporting the schedule for March"));
+    EXPECT_EQ(fileBytes(ws.gLogFile), "[08:00:00]     Earlier run\r\n");
+
+    ws.gLogFile = dir.filePath(QStringLiteral("gone/Desko40.log"));
+    modStatus(ws, s.ctx, QStringLiteral("Printing the full calendar"));
+    EXPECT_FALSE(QDir(dir.filePath(QStringLiteral("gone"))).exists());
 }
 
 }  // namespace

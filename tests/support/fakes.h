@@ -6,6 +6,7 @@
 #include "shell/dialogs.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QStringList>
 
 #include <deque>
@@ -14,6 +15,12 @@
 // Test failures print texts as text.
 inline void PrintTo(const QString& text, std::ostream* os) {
     *os << '"' << text.toStdString() << '"';
+}
+
+// The text of an expected file under tests/persistence/golden, CR LF and all.
+inline QString golden(const char* name) {
+    QFile file(QStringLiteral(DESKO_GOLDEN_DIR "/") + QString::fromUtf8(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 // A clock that shows whatever the test sets.
