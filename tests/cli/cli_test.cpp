@@ -1,3 +1,5 @@
+#include "fakes.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -52,14 +54,6 @@ protected:
     QTemporaryDir work;
 };
 
-QStringList words(std::initializer_list<const char*> list) {
-    QStringList result;
-    for (const char* word : list) {
-        result.append(QString::fromUtf8(word));
-    }
-    return result;
-}
-
 TEST_F(Cli, AnswersAndUsage) {
     struct Case {
         QStringList args;
@@ -67,19 +61,19 @@ TEST_F(Cli, AnswersAndUsage) {
         const char* out;
     };
     const Case cases[] = {
-        {words({"month", "1996", "1"}), 0, "1 31 0\n"},
-        {words({"month", "2027", "1"}), 0, "5 31 1\n"},
-        {words({"month", "2100", "2"}), 0, "1 29 0\n"},
-        {words({"interpret", "9 AM to 5 PM"}), 0, "True\t09:00 AM\t05:00 PM\n"},
-        {words({"interpret", "Closed"}), 0, "False\t\t\n"},
+        {texts({"month", "1996", "1"}), 0, "1 31 0\n"},
+        {texts({"month", "2027", "1"}), 0, "5 31 1\n"},
+        {texts({"month", "2100", "2"}), 0, "1 29 0\n"},
+        {texts({"interpret", "9 AM to 5 PM"}), 0, "True\t09:00 AM\t05:00 PM\n"},
+        {texts({"interpret", "Closed"}), 0, "False\t\t\n"},
         {{}, 2, ""},
-        {words({"calendar"}), 2, ""},
-        {words({"month", "1996"}), 2, ""},
-        {words({"month", "1996", "Jan"}), 2, ""},
-        {words({"month", "1996", "13"}), 2, ""},
-        {words({"interpret", "9am", "5pm"}), 2, ""},
-        {words({"resave", "--working", "in.ini"}), 2, ""},
-        {words({"keys"}), 2, ""},
+        {texts({"calendar"}), 2, ""},
+        {texts({"month", "1996"}), 2, ""},
+        {texts({"month", "1996", "Jan"}), 2, ""},
+        {texts({"month", "1996", "13"}), 2, ""},
+        {texts({"interpret", "9am", "5pm"}), 2, ""},
+        {texts({"resave", "--working", "in.ini"}), 2, ""},
+        {texts({"keys"}), 2, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.args.join(QLatin1Char(' ')).toStdString());

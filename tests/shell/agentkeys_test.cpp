@@ -1,4 +1,5 @@
 #include "shell/agentkeys.h"
+#include "fakes.h"
 #include "workspace/workspace.h"
 
 #include <QStringList>
@@ -36,14 +37,6 @@ Keys keysOf(std::initializer_list<Name> names) {
     return result;
 }
 
-QStringList list(std::initializer_list<const char*> texts) {
-    QStringList result;
-    for (const char* text : texts) {
-        result.append(QString::fromUtf8(text));
-    }
-    return result;
-}
-
 }  // namespace
 
 TEST(AgentKeys, SuffixesFollowTheSharedCounter) {
@@ -54,30 +47,30 @@ TEST(AgentKeys, SuffixesFollowTheSharedCounter) {
         QStringList firstKeys;
     };
     const Case cases[] = {
-        {"no shared names", keysOf({{"Brown", "Al"}, {"Smith", "Jo"}}), list({"Brown", "Smith"}),
-         list({"Al", "Jo"})},
+        {"no shared names", keysOf({{"Brown", "Al"}, {"Smith", "Jo"}}), texts({"Brown", "Smith"}),
+         texts({"Al", "Jo"})},
         {"two Smiths with different initials", keysOf({{"Smith", "Adam"}, {"Smith", "John"}}),
-         list({"Smith (A.)", "Smith (J.)"}), list({"Adam", "John"})},
+         texts({"Smith (A.)", "Smith (J.)"}), texts({"Adam", "John"})},
         {"two Smiths of one initial share one key", keysOf({{"Smith", "Jane"}, {"Smith", "John"}}),
-         list({"Smith (J.)", "Smith (J.)"}), list({"Jane", "John"})},
+         texts({"Smith (J.)", "Smith (J.)"}), texts({"Jane", "John"})},
         {"three Smiths lengthen every later suffix",
          keysOf({{"Smith", "Adam"},
                  {"Smith", "Jane"},
                  {"Smith", "John"},
                  {"Young", "Bo"},
                  {"Young", "Cy"}}),
-         list({"Smith (Ad.)", "Smith (Ja.)", "Smith (Jo.)", "Young (Bo.)", "Young (Cy.)"}),
-         list({"Adam", "Jane", "John", "Bo", "Cy"})},
+         texts({"Smith (Ad.)", "Smith (Ja.)", "Smith (Jo.)", "Young (Bo.)", "Young (Cy.)"}),
+         texts({"Adam", "Jane", "John", "Bo", "Cy"})},
         {"a first name of three agents carries its length into the last-name keys",
          keysOf(
              {{"Green", "Ann"}, {"Grey", "Ann"}, {"Gray", "Ann"}, {"Lee", "Bob"}, {"Lee", "Bill"}}),
-         list({"Green", "Grey", "Gray", "Lee (Bob.)", "Lee (Bill.)"}),
-         list({"Ann (Gre.)", "Ann (Gre.)", "Ann (Gray.)", "Bob", "Bill"})},
+         texts({"Green", "Grey", "Gray", "Lee (Bob.)", "Lee (Bill.)"}),
+         texts({"Ann (Gre.)", "Ann (Gre.)", "Ann (Gray.)", "Bob", "Bill"})},
         {"a name shorter than the suffix is taken whole",
-         keysOf({{"Ng", "Ann"}, {"Ngu", "Ann"}, {"X", "Ann"}}), list({"Ng", "Ngu", "X"}),
-         list({"Ann (N.)", "Ann (N.)", "Ann (X.)"})},
+         keysOf({{"Ng", "Ann"}, {"Ngu", "Ann"}, {"X", "Ann"}}), texts({"Ng", "Ngu", "X"}),
+         texts({"Ann (N.)", "Ann (N.)", "Ann (X.)"})},
         {"an agent's own name is not compared with itself", keysOf({{"Smith", "John"}}),
-         list({"Smith"}), list({"John"})},
+         texts({"Smith"}), texts({"John"})},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(c.got.keys, c.keys) << c.what;
@@ -89,8 +82,8 @@ TEST(AgentKeys, SuffixesFollowTheSharedCounter) {
 TEST(AgentKeys, IdenticalAgentsStopAtTheLongestSuffix) {
     const Keys got =
         keysOf({{"Smith", "John"}, {"Smith", "John"}, {"Smith", "John"}, {"Zed", "Al"}});
-    EXPECT_EQ(got.firstKeys, list({"John (Smith.)", "John (Smith.)", "John (Smith.)", "Al"}));
-    EXPECT_EQ(got.keys, list({"Smith (John.)", "Smith (John.)", "Smith (John.)", "Zed"}));
+    EXPECT_EQ(got.firstKeys, texts({"John (Smith.)", "John (Smith.)", "John (Smith.)", "Al"}));
+    EXPECT_EQ(got.keys, texts({"Smith (John.)", "Smith (John.)", "Smith (John.)", "Zed"}));
 }
 
 TEST(AgentKeys, NoAgentsLeaveOnlyIndexZero) {

@@ -17,6 +17,15 @@ inline void PrintTo(const QString& text, std::ostream* os) {
     *os << '"' << text.toStdString() << '"';
 }
 
+// A list of texts written as UTF-8 literals.
+inline QStringList texts(std::initializer_list<const char*> list) {
+    QStringList result;
+    for (const char* text : list) {
+        result.append(QString::fromUtf8(text));
+    }
+    return result;
+}
+
 // The text of an expected file under tests/persistence/golden, CR LF and all.
 inline QString golden(const char* name) {
     QFile file(QStringLiteral(DESKO_GOLDEN_DIR "/") + QString::fromUtf8(name));
