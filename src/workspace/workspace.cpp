@@ -58,13 +58,9 @@ void modSetupMonth(Workspace& ws) {
     long long w = ((y - 1993) * 365 + offset + 5) % 7;
     const long long k = (y - 1992) / 4;
     if (y > 1995) {
-        if (y % 4 != 0) {
-            w += k;
-        } else if (m < 3) {
-            w += k - 1;
-        } else {
-            w += k;
-        }
+        // Every leap day since the base counts, except this year's before it has come.
+        const bool leapDayAhead = y % 4 == 0 && m < 3;
+        w += leapDayAhead ? k - 1 : k;
     }
     ws.gMonthDays[2] = y % 4 == 0 ? 29 : 28;
     ws.gFirstWeekday = static_cast<int>(w % 7);
