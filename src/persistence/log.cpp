@@ -3,7 +3,7 @@
 #include "persistence/textfile.h"
 #include "shell/clock.h"
 #include "shell/context.h"
-#include "shell/propercase.h"
+#include "shell/textrules.h"
 #include "workspace/workspace.h"
 
 #include <QFile>

@@ -8,7 +8,7 @@
 #include "shell/agentkeys.h"
 #include "shell/context.h"
 #include "shell/dialogs.h"
-#include "shell/wrapmessage.h"
+#include "shell/textrules.h"
 #include "workspace/workspace.h"
 
 #include <algorithm>

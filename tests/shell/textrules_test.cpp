@@ -1,6 +1,5 @@
 #include "fakes.h"
-#include "shell/propercase.h"
-#include "shell/wrapmessage.h"
+#include "shell/textrules.h"
 
 #include <gtest/gtest.h>
 

@@ -4,6 +4,12 @@
 
 class Dialogs;
 
+// Tidies the capitals of a path or a machine name for the log and the window caption.
+QString modProperCase(const QString& text);
+
+// What follows the last path separator of a path.
+QString modBaseName(const QString& path);
+
 // Breaks a message box text at blanks so that no line is wider than 350 pixels of the
 // dialogs' text font. A text without a blank past a line's start is not broken.
 QString modWrapMessage(const QString& text, const Dialogs& dialogs);

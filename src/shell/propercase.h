@@ -1,6 +1,0 @@
-#pragma once
-
-#include <QString>
-
-// Tidies the capitals of a path or a machine name for the log and the window caption.
-QString modProperCase(const QString& text);
