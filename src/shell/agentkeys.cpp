@@ -60,3 +60,15 @@ void modBuildAgentKeys(Workspace& ws) {
     buildKeys(ws.gAgentFirst, ws.gAgentLast, ws.gAgentFirstKey, ws.gAgentCount, length);
     buildKeys(ws.gAgentLast, ws.gAgentFirst, ws.gAgentKey, ws.gAgentCount, length);
 }
+
+QString modGetDesiredName(const Workspace& ws, const QString& cell) {
+    if (ws.gCalendarUseFirstName != QStringLiteral("1")) {
+        return cell;
+    }
+    for (int i = 1; i <= ws.gAgentCount; ++i) {
+        if (ws.gAgentKey[i] == cell) {
+            return ws.gAgentFirstKey[i];
+        }
+    }
+    return QString();
+}

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 #include <ostream>
 
 // Test failures print texts as text.
@@ -51,10 +52,15 @@ public:
     };
     std::deque<MsgAnswer> answers;
     std::vector<Shown> shown;
+    // Runs while a box is up, so a test can see the state the user sees it in.
+    std::function<void()> whileShown;
 
     MsgAnswer messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
                          int defaultButton) override {
         shown.push_back({text, icon, buttons, defaultButton});
+        if (whileShown) {
+            whileShown();
+        }
         if (answers.empty()) {
             return buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
         }

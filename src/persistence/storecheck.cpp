@@ -1,0 +1,24 @@
+#include "persistence/storecheck.h"
+
+#include "persistence/log.h"
+#include "shell/context.h"
+#include "shell/dialogs.h"
+#include "shell/textrules.h"
+#include "workspace/workspace.h"
+
+#include <QFileInfo>
+
+void modMigrateOrCheckStore(Workspace& ws, Context& ctx) {
+    // Hidden and read-only files count as there; a directory does not.
+    if (QFileInfo(ws.gConfigFile).isFile()) {
+        return;
+    }
+    modStatus(ws, ctx, QStringLiteral("INI file not found at ") + ws.gConfigFile);
+    ctx.dialogs.messageBox(
+        modWrapMessage(
+            QStringLiteral("The Desko for Windows configuration file, Desko40.ini, could "
+                           "not be found in the program directory.  The program will "
+                           "still run, but some configuration data may be lost."),
+            ctx.dialogs),
+        MsgIcon::Stop, MsgButtons::OK);
+}

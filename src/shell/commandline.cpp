@@ -1,0 +1,38 @@
+#include "persistence/log.h"
+#include "persistence/workspacefile.h"
+#include "shell/agentkeys.h"
+#include "shell/context.h"
+#include "shell/dayeditor.h"
+#include "shell/formhelpers.h"
+#include "shell/frmMain.h"
+#include "shell/textrules.h"
+#include "workspace/workspace.h"
+
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+
+// A hidden file passes the start's test but not this one: the window then stays busy,
+// with the status showing, until it next becomes active.
+void frmMain::modOpenFromCommandLine(QString& path) {
+    fraDate->hide();
+    fraStatus->show();
+    labStatus->setText(QStringLiteral("Opening a desko schedule . . ."));
+    modEnterBusyState();
+    modHourglass();
+    modDoEvents();
+    const QFileInfo file(path);
+    if (!file.isFile() || file.isHidden()) {
+        return;
+    }
+    modStatus(ws_, ctx_, QStringLiteral("Program started with command switch"));
+    modStatus(ws_, ctx_, QStringLiteral("Opening desko schedule ") + modProperCase(path));
+    modLoadWorkspace(ws_, ctx_, path);
+    ws_.gScheduleTag = QStringLiteral(" [") + modProperCase(modBaseName(path)) + QLatin1Char(']');
+    ws_.gHasScheduleFile = 1;
+    modSaveWorkspace(ws_, ctx_, QString());
+    modBuildAgentKeys(ws_);
+    modFillDayEditorCombos(ws_);
+    ws_.gDirty = 0;
+    path = QStringLiteral("0");
+}
