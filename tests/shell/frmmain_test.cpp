@@ -451,53 +451,6 @@ TEST_F(MainWindow, GenerateMenuChoosesTheEngineAndPresses) {
     }
 }
 
-TEST_F(MainWindow, MenusCarryTheirItemsInOrder) {
-    open();
-    // One line per entry: its name and caption, "-" for a separator.
-    const auto entries = [](const QList<QAction*>& actions) {
-        QStringList result;
-        for (const QAction* action : actions) {
-            EXPECT_TRUE(action->shortcut().isEmpty()) << action->text().toStdString();
-            if (action->isSeparator()) {
-                result.append(QStringLiteral("-"));
-                continue;
-            }
-            const QString name =
-                action->menu() ? action->menu()->objectName() : action->objectName();
-            result.append(name + QLatin1Char(' ') + action->text());
-        }
-        return result;
-    };
-    EXPECT_EQ(entries(window->menuBar()->actions()),
-              texts({"mnuFile &File", "mnuEdit &Edit", "mnuGenerate &Generate", "mnuHelp &Help"}));
-    EXPECT_EQ(
-        entries(control<QMenu>("mnuFile")->actions()),
-        texts({"mnuFNew &New desko schedule", "mnuFOpen &Open desko schedule...",
-               "mnuFSaveAs &Save desko schedule as...", "-", "mnuFPrint &Print desko schedule",
-               "mnuFExport E&xport desko schedule", "-", "mnuFExit E&xit"}));
-    EXPECT_EQ(entries(control<QMenu>("mnuFPrint")->actions()),
-              texts({"mnuFPCalendar &Full calendar", "mnuFPGrid &Office grid",
-                     "mnuFPTearsheet &Tearsheet"}));
-    EXPECT_EQ(entries(control<QMenu>("mnuFExport")->actions()),
-              texts({"mnuFEEmail E-&mail", "mnuFEOutlook &Outlook calendar",
-                     "mnuFECreator Calendar C&reator"}));
-    EXPECT_EQ(entries(control<QMenu>("mnuEdit")->actions()),
-              texts({"mnuESchedule &Schedule", "mnuEShifts &Daily shifts && times",
-                     "mnuEConstraints &All constraints", "mnuEFonts &Fonts && printer setup"}));
-    EXPECT_EQ(entries(control<QMenu>("mnuGenerate")->actions()),
-              texts({"mnuGSmartRandom Smart&Random", "mnuGShuffled S&huffled",
-                     "mnuGMixed Serial (&mixed)", "mnuGHorizontal Serial (&horizontal)"}));
-    EXPECT_EQ(entries(control<QMenu>("mnuHelp")->actions()),
-              texts({"mnuHHelp Desko for Windows &Help...",
-                     "mnuHDump &Create a configuration dump file...",
-                     "mnuHOpenDump &Open a configuration dump file...", "-",
-                     "mnuHAbout &About Desko for Windows..."}));
-    EXPECT_FALSE(control<QAction>("mnuHOpenDump")->isVisible());
-    EXPECT_TRUE(control<QAction>("mnuHDump")->isVisible());
-}
-
-// Leaving the busy face puts the month back in place of a command's status, empties the
-// status, shows the month, and keeps the cursor on Add when an add asked for it.
 TEST_F(MainWindow, LeavingTheBusyFaceRestoresTheMonthAndTheCursor) {
     withAgents(3);
     open();
