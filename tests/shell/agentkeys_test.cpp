@@ -92,3 +92,33 @@ TEST(AgentKeys, NoAgentsLeaveOnlyIndexZero) {
     ASSERT_EQ(ws.gAgentKey.size(), 1U);
     EXPECT_TRUE(ws.gAgentKey[0].isEmpty());
 }
+
+// With first names printed, a cell shows the first-name key of the first agent whose key it
+// holds, or nothing for an agent who is gone; otherwise the cell shows as it stands.
+TEST(AgentKeys, DesiredNameOfACell) {
+    Workspace ws;
+    ws.gAgentCount = 3;
+    ws.redimAgents(3);
+    ws.gAgentLast = {QString(), QStringLiteral("Smith"), QStringLiteral("Smith"),
+                     QStringLiteral("Lee")};
+    ws.gAgentFirst = {QString(), QStringLiteral("Jane"), QStringLiteral("John"),
+                      QStringLiteral("Jane")};
+    modBuildAgentKeys(ws);  // both Smiths share "Smith (J.)"
+    struct Case {
+        const char* useFirstName;
+        const char* cell;
+        const char* label;
+    };
+    const Case cases[] = {
+        {"1", "Smith (J.)", "Jane (S.)"},
+        {"1", "Lee", "Jane (L.)"},
+        {"1", "Gone", ""},
+        {"0", "Gone", "Gone"},
+        {"", "Lee", "Lee"},
+    };
+    for (const Case& c : cases) {
+        ws.gCalendarUseFirstName = QString::fromUtf8(c.useFirstName);
+        EXPECT_EQ(modGetDesiredName(ws, QString::fromUtf8(c.cell)), QString::fromUtf8(c.label))
+            << c.useFirstName << " " << c.cell;
+    }
+}

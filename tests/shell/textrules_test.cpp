@@ -1,5 +1,5 @@
-#include "fakes.h"
 #include "shell/textrules.h"
+#include "fakes.h"
 
 #include <gtest/gtest.h>
 
@@ -50,5 +50,16 @@ TEST(ProperCase, TidiesPathsAndNames) {
     };
     for (const Case& c : cases) {
         EXPECT_EQ(modProperCase(QString::fromUtf8(c.text)), QString::fromUtf8(c.tidied)) << c.text;
+    }
+}
+
+TEST(BaseName, FollowsTheLastSeparatorOfEitherKind) {
+    const char* const cases[][2] = {{"/home/ann/May.dko", "May.dko"},
+                                    {"C:\\Office\\June.dko", "June.dko"},
+                                    {"mixed/dir\\July.dko", "July.dko"},
+                                    {"plain.dko", "plain.dko"},
+                                    {"/trailing/", ""}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(modBaseName(QString::fromUtf8(c[0])), QString::fromUtf8(c[1])) << c[0];
     }
 }
