@@ -2,10 +2,24 @@
 
 #include <QString>
 
+#include <optional>
+
 // The icon, the buttons and the answer of a message box. Boxes carry no title of their own.
 enum class MsgIcon { None, Stop, Question, Exclamation, Information };
 enum class MsgButtons { OK, OKCancel, YesNo, YesNoCancel };
 enum class MsgAnswer { OK, Cancel, Yes, No };
+
+// What an open or a save dialog is shown with. The filter lists pairs of a description and
+// its patterns, all separated by "|": "Desko schedules (*.dko)|*.dko|All files (*.*)|*.*";
+// filterIndex counts the pairs from 1.
+struct FileDialog {
+    QString title;
+    QString filter;
+    int filterIndex = 1;
+    QString initialDir;
+    QString fileName;
+    bool promptOverwrite = false;
+};
 
 // Everything the program asks or tells the user in a box goes through this interface: the
 // program shows Qt dialogs, the tests script the answers and keep every text shown.
@@ -17,4 +31,8 @@ public:
                                  int defaultButton = 1) = 0;
     // The width of a text in the font of the main window's message texts, in pixels.
     virtual double textWidth(const QString& text) const = 0;
+    // The chosen file's full name, or nothing when the user cancelled. Where no dialog can
+    // be shown, as in the headless tool, every file dialog is cancelled.
+    virtual std::optional<QString> openFileDialog(const FileDialog&) { return std::nullopt; }
+    virtual std::optional<QString> saveFileDialog(const FileDialog&) { return std::nullopt; }
 };

@@ -181,6 +181,9 @@ frmMain::frmMain(Workspace& ws, Context& ctx, const QString& programFile, QWidge
     setObjectName(QStringLiteral("frmMain"));
     buildControls();
     buildMenus();
+    connectAgentCommands();
+    connectFileCommands();
+    connectMonthChange();
     // One size, the one the controls need: the window is a form, not a canvas.
     setFixedSize(sizeHint());
     Form_Load();
@@ -194,7 +197,8 @@ void frmMain::buildControls() {
     fraAgents = makeFrame(agentListCaption(0), "fraAgents", central);
     lstAgents = new QListWidget(fraAgents);
     lstAgents->setObjectName(QStringLiteral("lstAgents"));
-    lstAgents->setSortingEnabled(true);
+    // No sorting of its own: the agent commands keep the agents in name order, case ignored,
+    // and the list shows them in that order, so that agent i is always item i - 1.
     lstAgents->setMinimumSize(190, 250);
     cmdAdd = makeButton(QStringLiteral("&Add"), "cmdAdd", fraAgents);
     cmdChange = makeButton(QStringLiteral("&Change"), "cmdChange", fraAgents);
@@ -438,15 +442,7 @@ void frmMain::Form_Load() {
 // The print boxes and the engine list show what the loaded workspace holds, and a user's
 // change goes back into the workspace, where saving reads it.
 void frmMain::mirrorPrintAndEngine() {
-    if (ws_.cmbGenerateListIndex >= 0 && ws_.cmbGenerateListIndex < cmbGenerate->count()) {
-        cmbGenerate->setCurrentIndex(ws_.cmbGenerateListIndex);
-    }
-    for (std::size_t i = 0; i < chkPrint.size(); ++i) {
-        if (ws_.chkPrint[i] >= 0 && ws_.chkPrint[i] <= 2) {
-            chkPrint[i]->setCheckState(checkStateOf(ws_.chkPrint[i]));
-        }
-    }
-
+    showPrintAndEngine();
     connect(cmbGenerate, &QComboBox::currentIndexChanged, this,
             [this](int index) { ws_.cmbGenerateListIndex = index; });
     for (std::size_t i = 0; i < chkPrint.size(); ++i) {
@@ -458,6 +454,18 @@ void frmMain::mirrorPrintAndEngine() {
                 box->setTristate(false);
             }
         });
+    }
+}
+
+// Sets the print boxes and the engine list from the workspace, again after a file was read.
+void frmMain::showPrintAndEngine() {
+    if (ws_.cmbGenerateListIndex >= 0 && ws_.cmbGenerateListIndex < cmbGenerate->count()) {
+        cmbGenerate->setCurrentIndex(ws_.cmbGenerateListIndex);
+    }
+    for (std::size_t i = 0; i < chkPrint.size(); ++i) {
+        if (ws_.chkPrint[i] >= 0 && ws_.chkPrint[i] <= 2) {
+            chkPrint[i]->setCheckState(checkStateOf(ws_.chkPrint[i]));
+        }
     }
 }
 

@@ -49,6 +49,28 @@ public:
     // Opens the schedule file the program was started with; path becomes "0".
     void modOpenFromCommandLine(QString& path);
 
+    // The agent list's commands.
+    void cmdAdd_Click();
+    void cmdChange_Click();
+    void cmdOK_Click();
+    void cmdCancel_Click();
+    void cmdDelete_Click();
+    void cmdResolveName_Click();
+    void txtEmail_Change();
+    void cmdVacations_Click();
+    void cmdRestrictions_Click();
+    void cmdHolidays_Click();
+    void cmdNotes_Click();
+
+    // The month stepper moved.
+    void vscDate_Change();
+
+    // The file commands.
+    void mnuFile_Click();
+    void mnuFNew_Click();
+    void mnuFOpen_Click();
+    void mnuFSaveAs_Click();
+
     // The controls, as the other forms and commands reach them.
     QGroupBox* fraEditAgent;
     QPushButton* cmdResolveName;
@@ -142,6 +164,11 @@ private:
     void pressGenerate(int listIndex);
     void showToFront();
     void mirrorPrintAndEngine();
+    void showPrintAndEngine();
+    // Each group of commands connects its own controls.
+    void connectAgentCommands();
+    void connectMonthChange();
+    void connectFileCommands();
 
     Workspace& ws_;
     Context& ctx_;

@@ -1,10 +1,12 @@
 #include "shell/qtdialogs.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QFontMetricsF>
 #include <QMessageBox>
 #include <QWidget>
 
+#include <algorithm>
 #include <vector>
 
 namespace {
@@ -46,6 +48,41 @@ std::vector<Button> buttonsOf(MsgButtons buttons) {
     return {{QMessageBox::Ok, MsgAnswer::OK}};
 }
 
+// "Desko schedules (*.dko)|*.dko|All files (*.*)|*.*" becomes the name filters Qt shows,
+// "Desko schedules (*.dko)" and "All files (*.*)". Qt reads the patterns from the brackets
+// of each name, so a description that does not end with its own patterns gets them added.
+QStringList nameFilters(const QString& filter) {
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    QStringList result;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString patterns = QString(parts[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' '));
+        const QString suffix = QStringLiteral(" (") + patterns + QLatin1Char(')');
+        result.append(parts[i].endsWith(suffix) ? parts[i] : parts[i] + suffix);
+    }
+    return result;
+}
+
+std::optional<QString> runFileDialog(const FileDialog& request, QFileDialog::AcceptMode mode,
+                                     QWidget* parent) {
+    QFileDialog dialog(parent, request.title, request.initialDir);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                       : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.promptOverwrite);
+    const QStringList filters = nameFilters(request.filter);
+    if (!filters.isEmpty()) {
+        dialog.setNameFilters(filters);
+        dialog.selectNameFilter(filters.value(std::max(request.filterIndex, 1) - 1, filters[0]));
+    }
+    if (!request.fileName.isEmpty()) {
+        dialog.selectFile(request.fileName);
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return dialog.selectedFiles().constFirst();
+}
+
 }  // namespace
 
 MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
@@ -69,4 +106,12 @@ MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons bu
 
 double QtDialogs::textWidth(const QString& text) const {
     return QFontMetricsF(parent_ ? parent_->font() : QApplication::font()).horizontalAdvance(text);
+}
+
+std::optional<QString> QtDialogs::openFileDialog(const FileDialog& request) {
+    return runFileDialog(request, QFileDialog::AcceptOpen, parent_);
+}
+
+std::optional<QString> QtDialogs::saveFileDialog(const FileDialog& request) {
+    return runFileDialog(request, QFileDialog::AcceptSave, parent_);
 }

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-// Message boxes as Qt dialogs over the main window, measured in its font.
+// Message boxes and file dialogs as Qt dialogs over the main window, measured in its font.
 class QtDialogs final : public Dialogs {
 public:
     explicit QtDialogs(QWidget* parent = nullptr) : parent_(parent) {}
@@ -12,6 +12,8 @@ public:
     MsgAnswer messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
                          int defaultButton = 1) override;
     double textWidth(const QString& text) const override;
+    std::optional<QString> openFileDialog(const FileDialog& request) override;
+    std::optional<QString> saveFileDialog(const FileDialog& request) override;
 
 private:
     QWidget* parent_;

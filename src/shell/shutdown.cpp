@@ -25,6 +25,10 @@ bool frmMain::Form_Unload() {
             modStatus(ws_, ctx_, QStringLiteral("Cancelling unload"));
             return false;
         }
+        // The window closes whether or not the save completed.
+        if (answer == MsgAnswer::Yes) {
+            mnuFSaveAs_Click();
+        }
     }
     modLogClose(ws_, ctx_);
     endProgram();
@@ -40,8 +44,11 @@ void frmMain::mnuFExit_Click() {
                            ctx_.dialogs),
             MsgIcon::Question, MsgButtons::YesNo);
         // A Yes whose save did not complete keeps the program open.
-        if (answer == MsgAnswer::Yes && ws_.gSaveDone != 1) {
-            return;
+        if (answer == MsgAnswer::Yes) {
+            mnuFSaveAs_Click();
+            if (ws_.gSaveDone != 1) {
+                return;
+            }
         }
     }
     modSaveWorkspace(ws_, ctx_, QString());

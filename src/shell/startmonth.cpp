@@ -43,6 +43,13 @@ void modStartMonth(Workspace& ws, Context& ctx) {
     modStatus(ws, ctx,
               QStringLiteral("Month number has changed since program was last used--resetting "
                              "month-specific data"));
+    modEraseMonthData(ws);
+    ws.gHasHolidays = 0;
+    ws.gHasNotedDays = 0;
+    ws.gHasVacations = 0;
+}
+
+void modEraseMonthData(Workspace& ws) {
     ws.gVacation.assign(static_cast<std::size_t>(ws.gAgentCount) + 1, DayFlags{});
     ws.gNotedText.fill(QString());
     ws.gNoted.fill(0);
@@ -54,7 +61,4 @@ void modStartMonth(Workspace& ws, Context& ctx) {
     ws.gEmailSubject.clear();
     ws.gEmailBody.clear();
     ws.gOutlookSubject.clear();
-    ws.gHasHolidays = 0;
-    ws.gHasNotedDays = 0;
-    ws.gHasVacations = 0;
 }

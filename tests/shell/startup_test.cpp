@@ -2,6 +2,7 @@
 #include "persistence/textfile.h"
 #include "shell/frmMain.h"
 #include "shell/programstart.h"
+#include "shell/textrules.h"
 #include "workspace/workspace.h"
 
 #include <QFile>
@@ -54,10 +55,7 @@ TEST_F(Startup, FirstRunWithoutAWorkingFileSaysSoAndGoesOn) {
     const DeskoRun run = start();
     ASSERT_TRUE(run.window);
     ASSERT_EQ(s.dialogs.shown.size(), 1U);
-    EXPECT_EQ(QString(s.dialogs.shown[0].text)
-                  .replace(QStringLiteral("\r\n"), QStringLiteral(" "))
-                  .simplified(),
-              kIniMissing.simplified());
+    EXPECT_EQ(s.dialogs.shown[0].text, modWrapMessage(kIniMissing, s.dialogs));
     EXPECT_EQ(s.dialogs.shown[0].icon, MsgIcon::Stop);
     // The message's log line comes before the run's header.
     EXPECT_TRUE(log().startsWith(QStringLiteral("[09:30:00]     INI file not found at ") +
@@ -122,8 +120,10 @@ TEST_F(Startup, ASecondInstanceIsRefusedAndTouchesNothing) {
     EXPECT_FALSE(refused.window);
     ASSERT_EQ(other.dialogs.shown.size(), 1U);
     EXPECT_EQ(
-        other.dialogs.shown[0].text.simplified(),
-        QStringLiteral("You may run only one instance of Desko for Windows rev 4.0 at a time."));
+        other.dialogs.shown[0].text,
+        modWrapMessage(
+            QStringLiteral("You may run only one instance of Desko for Windows rev 4.0 at a time."),
+            other.dialogs));
     EXPECT_EQ(other.dialogs.shown[0].icon, MsgIcon::Stop);
     EXPECT_EQ(log(), logBefore);
     EXPECT_EQ(readTextFile(file("Desko40.ini")), iniBefore);
@@ -191,8 +191,8 @@ TEST_F(Startup, TwoRoadsOut) {
         ASSERT_EQ(services.dialogs.shown.size(), c.answer ? 1U : 0U);
         if (c.answer) {
             const auto& box = services.dialogs.shown[0];
-            EXPECT_EQ(box.text.simplified(),
-                      (c.road == Road::Close ? closeQuestion : exitQuestion).simplified());
+            EXPECT_EQ(box.text, modWrapMessage(c.road == Road::Close ? closeQuestion : exitQuestion,
+                                               services.dialogs));
             EXPECT_EQ(box.buttons,
                       c.road == Road::Close ? MsgButtons::YesNoCancel : MsgButtons::YesNo);
             EXPECT_EQ(box.icon, MsgIcon::Question);

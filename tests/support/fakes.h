@@ -40,8 +40,8 @@ public:
     QDateTime now() const override { return time; }
 };
 
-// Message boxes answered from a script; every text shown is kept. Each character is 7 pixels
-// wide, so a test can tell where a message breaks.
+// Message boxes and file dialogs answered from a script; every text and every file dialog
+// shown is kept. Each character is 7 pixels wide, so a test can tell where a message breaks.
 class ScriptedDialogs final : public Dialogs {
 public:
     struct Shown {
@@ -50,8 +50,17 @@ public:
         MsgButtons buttons;
         int defaultButton;
     };
+    enum class FileKind { Open, Save };
+    struct FileShown {
+        FileKind kind;
+        FileDialog request;
+    };
     std::deque<MsgAnswer> answers;
     std::vector<Shown> shown;
+    // The file dialogs' answers in turn: a name, or nothing for Cancel. When they run out,
+    // every further file dialog is cancelled.
+    std::deque<std::optional<QString>> fileAnswers;
+    std::vector<FileShown> filesShown;
     // Runs while a box is up, so a test can see the state the user sees it in.
     std::function<void()> whileShown;
 
@@ -69,6 +78,27 @@ public:
         return answer;
     }
     double textWidth(const QString& text) const override { return 7.0 * text.size(); }
+    std::optional<QString> openFileDialog(const FileDialog& request) override {
+        return fileDialog(FileKind::Open, request);
+    }
+    std::optional<QString> saveFileDialog(const FileDialog& request) override {
+        return fileDialog(FileKind::Save, request);
+    }
+
+private:
+    std::optional<QString> fileDialog(FileKind kind, const FileDialog& request) {
+        filesShown.push_back({kind, request});
+        if (fileAnswers.empty()) {
+            return std::nullopt;
+        }
+        const bool chosen = fileAnswers.front().has_value();
+        const QString name = fileAnswers.front().value_or(QString());
+        fileAnswers.pop_front();
+        if (!chosen) {
+            return std::nullopt;
+        }
+        return name;
+    }
 };
 
 // The services of a test run, wired together.

@@ -1,0 +1,69 @@
+// The month stepper. Only the difference between its new and its last value counts: one
+// step down is the month before, one step up the month after. Any other difference (a
+// drag of the thumb, or a step after a refused one) erases the month's data all the same
+// and leaves the month as it is.
+
+#include "persistence/log.h"
+#include "persistence/workspacefile.h"
+#include "shell/context.h"
+#include "shell/dialogs.h"
+#include "shell/frmMain.h"
+#include "shell/startmonth.h"
+#include "shell/textrules.h"
+#include "workspace/workspace.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollBar>
+
+void frmMain::connectMonthChange() {
+    connect(vscDate, &QScrollBar::valueChanged, this, [this] {
+        if (!vscDate->isSliderDown()) {
+            vscDate_Change();
+        }
+    });
+    connect(vscDate, &QScrollBar::sliderReleased, this, [this] { vscDate_Change(); });
+}
+
+void frmMain::vscDate_Change() {
+    if (ws_.gHasHolidays == 1 || ws_.gHasNotedDays == 1 || ws_.gHasVacations == 1 ||
+        ws_.gScheduleGenerated == 1) {
+        const MsgAnswer answer = ctx_.dialogs.messageBox(
+            modWrapMessage(QStringLiteral("Changing the date of the calendar will erase the "
+                                          "schedule, as well as all holidays, vacations, and "
+                                          "notes.  Do you want to proceed anyway?"),
+                           ctx_.dialogs),
+            MsgIcon::Exclamation, MsgButtons::YesNo, 2);
+        // The bar keeps its new value and the last value stays: the next step is out of step.
+        if (answer != MsgAnswer::Yes) {
+            return;
+        }
+    }
+    modEraseMonthData(ws_);
+    ws_.gHasHolidays = 0;
+    ws_.gHasNotedDays = 0;
+    ws_.gHasVacations = 0;
+    ws_.gScheduleGenerated = 0;
+
+    const int delta = vscDate->value() - ws_.gScrollValue;
+    ws_.gScrollValue = vscDate->value();
+    if (delta == 1 || delta == -1) {
+        ws_.gCurrentMonth -= delta;
+        if (ws_.gCurrentMonth < 1) {
+            ws_.gCurrentMonth = 12;
+            ws_.gCurrentYear -= 1;
+        } else if (ws_.gCurrentMonth > 12) {
+            ws_.gCurrentMonth = 1;
+            ws_.gCurrentYear += 1;
+        }
+        labDate->setText(ws_.currentMonthName() + QLatin1Char(' ') +
+                         QString::number(ws_.gCurrentYear));
+    }
+    modStatus(ws_, ctx_,
+              QStringLiteral("Changing the present month to ") + ws_.currentMonthName() +
+                  QLatin1Char(' ') + QString::number(ws_.gCurrentYear));
+    modSaveWorkspace(ws_, ctx_, QString());
+    modSetupMonth(ws_);
+    modLeaveBusyState();
+    lstAgents->setFocus();
+}
