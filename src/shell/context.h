@@ -1,6 +1,7 @@
 #pragma once
 
 #include "environment/environment.h"
+#include "generation/randomsequence.h"
 
 class Clock;
 class Dialogs;
@@ -12,4 +13,5 @@ struct Context {
     Dialogs& dialogs;
     RegistryStore& registry;
     Environment env;
+    RandomSequence random{};
 };

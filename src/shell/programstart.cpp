@@ -1,9 +1,11 @@
 #include "shell/programstart.h"
 
+#include "generation/randomsequence.h"
 #include "persistence/log.h"
 #include "persistence/storecheck.h"
 #include "persistence/workspacefile.h"
 #include "shell/agentkeys.h"
+#include "shell/clock.h"
 #include "shell/context.h"
 #include "shell/dialogs.h"
 #include "shell/formhelpers.h"
@@ -56,6 +58,7 @@ DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& appPath,
         run.instance.reset();
         return run;
     }
+    ctx.random.setState(modStartingSeed(ctx.clock.now()));
 
     std::unique_ptr<frmCredit> splash;
     if (splashMs > 0) {

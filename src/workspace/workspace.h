@@ -128,6 +128,13 @@ struct Workspace {
     int gDayPickerAgent = 0;
     int gRestrictionAgent = 0;
 
+    // Generation and review, never saved.
+    double gAgentRatio = 0;       // agents / positions of the busiest weekday, at the last generate
+    int gCalendarAgentIndex = 0;  // the review's agent list index last rebuilt for
+    int gBaseAgent = 0;           // a serial engine's cursor on entry
+    int gInitialAgent = 0;        // the review's agent list index handed to an engine
+    int gSelectedDay = 0;         // the day last clicked in the review
+
     QString& schedule(int day, int shift, int slot) {
         return gSchedule[scheduleIndex(day, shift, slot)];
     }
