@@ -9,12 +9,9 @@
 // measures that real reading and does not work around it. [Agents] (1,000 rows) and
 // [Schedule] (564 rows for January 2027) fit and are read whole.
 
-#include "persistence/registrystore.h"
+#include "benchservices.h"
 #include "persistence/workspacefile.h"
 #include "shell/agentkeys.h"
-#include "shell/clock.h"
-#include "shell/context.h"
-#include "shell/dialogs.h"
 #include "shell/session.h"
 #include "workspace/workspace.h"
 
@@ -50,23 +47,6 @@ const std::array<const char*, 40> kFirstNames = {
     "Thomas",  "Sarah",     "Charles", "Karen",    "Daniel",  "Nancy",    "Matthew", "Lisa",
     "Anthony", "Betty",     "Mark",    "Margaret", "Donald",  "Sandra",   "Steven",  "Ashley",
     "Paul",    "Kimberly",  "Andrew",  "Emily",    "Joshua",  "Donna",    "Kenneth", "Maria"};
-
-// Message boxes are answered OK at once and measure nothing: a load of a good file shows
-// none, so these only keep the services complete.
-class SilentDialogs final : public Dialogs {
-public:
-    MsgAnswer messageBox(const QString&, MsgIcon, MsgButtons, int) override {
-        return MsgAnswer::OK;
-    }
-    double textWidth(const QString&) const override { return 0.0; }
-};
-
-struct Services {
-    SystemClock clock;
-    SilentDialogs dialogs;
-    MemoryRegistryStore registry;
-    Context ctx{clock, dialogs, registry, {}};
-};
 
 bool isWeekend(int weekday) {
     return weekday == 0 || weekday == 6;

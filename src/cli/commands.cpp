@@ -1,5 +1,7 @@
 #include "cli/commands.h"
 
+#include "generation/generate.h"
+#include "generation/randomsequence.h"
 #include "persistence/registrystore.h"
 #include "persistence/workspacefile.h"
 #include "shell/clock.h"
@@ -19,17 +21,21 @@ const QString kUsage = QStringLiteral(
     "usage: desko40-cli month YEAR MONTH\n"
     "       desko40-cli interpret TEXT\n"
     "       desko40-cli resave [--working] IN OUT\n"
-    "       desko40-cli keys FILE\n");
+    "       desko40-cli keys FILE\n"
+    "       desko40-cli generate IN OUT --engine smartrandom|shuffled|horizontal|mixed\n"
+    "                   [--seed S] [--base B] [--working]\n");
 
 // The tool's message boxes are lines on standard error; a line has no width to keep.
 class ConsoleDialogs final : public Dialogs {
 public:
     explicit ConsoleDialogs(QTextStream& err, QString subject)
         : err_(err), subject_(std::move(subject)) {}
-    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons, int) override {
+    // Every question is answered Yes: the command line said what to do.
+    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) override {
         err_ << "desko40-cli: " << subject_ << ": " << text << '\n';
         shown_ = true;
-        return MsgAnswer::OK;
+        return buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel ? MsgAnswer::Yes
+                                                                                  : MsgAnswer::OK;
     }
     double textWidth(const QString&) const override { return 0.0; }
     bool shown() const { return shown_; }
@@ -46,6 +52,7 @@ struct Session {
     Session(QTextStream& err, const QString& subject) : dialogs(err, subject) {
         modInitNameTables(ws);
         modInitSession(ws, modAppPath());
+        ws.gLogFile.clear();
     }
     Workspace ws;
     SystemClock clock;
@@ -157,6 +164,90 @@ int keys(const QStringList& args, QTextStream& out, QTextStream& err) {
     return 0;
 }
 
+// The engines by the names the tool takes, in the order of the engine list.
+const QStringList kEngineNames = {QStringLiteral("smartrandom"), QStringLiteral("shuffled"),
+                                  QStringLiteral("horizontal"), QStringLiteral("mixed")};
+
+struct GenerateOptions {
+    QStringList files;
+    int engine = -1;
+    std::optional<std::uint32_t> seed;
+    std::optional<int> base;
+    bool working = false;
+};
+
+// The options in any order after the command; nothing when they do not make a command.
+std::optional<GenerateOptions> generateOptions(const QStringList& args) {
+    GenerateOptions options;
+    for (qsizetype i = 1; i < args.size(); ++i) {
+        const QString& arg = args[i];
+        const bool hasValue = i + 1 < args.size();
+        if (arg == QStringLiteral("--working")) {
+            options.working = true;
+        } else if (arg == QStringLiteral("--engine") && hasValue) {
+            options.engine = static_cast<int>(kEngineNames.indexOf(args[++i]));
+        } else if (arg == QStringLiteral("--seed") && hasValue) {
+            options.seed = modParseSeed(args[++i]);
+            if (!options.seed) {
+                return std::nullopt;
+            }
+        } else if (arg == QStringLiteral("--base") && hasValue) {
+            options.base = number(args[++i]);
+            if (!options.base) {
+                return std::nullopt;
+            }
+        } else if (arg.startsWith(QStringLiteral("--"))) {
+            return std::nullopt;
+        } else {
+            options.files.append(arg);
+        }
+    }
+    const bool serial = options.engine == kEngineHorizontal || options.engine == kEngineMixed;
+    if (options.files.size() != 2 || options.engine < 0 || (options.base && !serial)) {
+        return std::nullopt;
+    }
+    return options;
+}
+
+int generate(const QStringList& args, QTextStream& err) {
+    const std::optional<GenerateOptions> options = generateOptions(args);
+    if (!options) {
+        return usage(err);
+    }
+    const QString& in = options->files[0];
+    const QString& target = options->files[1];
+    if (!readable(in)) {
+        return fail(err, in, QStringLiteral("cannot be read"));
+    }
+    Session session(err, in);
+    if (!load(session, in, options->working)) {
+        return 1;
+    }
+    Workspace& ws = session.ws;
+    if (ws.gAgentCount == 0) {
+        return fail(err, in, QStringLiteral("has no agents"));
+    }
+    if (options->base && (*options->base < 1 || *options->base > ws.gAgentCount)) {
+        return fail(err, in, QStringLiteral("has no agent ") + QString::number(*options->base));
+    }
+    session.ctx.random.setState(options->seed ? *options->seed
+                                              : modStartingSeed(session.clock.now()));
+    if (!modPrepareGenerate(ws, session.ctx, options->engine)) {
+        return 1;
+    }
+    std::optional<int> cursor;
+    if (options->base) {
+        cursor = *options->base - 1;
+    }
+    modRunEngine(ws, session.ctx, {}, cursor);
+    // What the review form marks when it shows the result.
+    ws.gScheduleGenerated = 1;
+    if (!modSaveWorkspace(ws, session.ctx, target)) {
+        return fail(err, target, QStringLiteral("cannot be written"));
+    }
+    return 0;
+}
+
 }  // namespace
 
 int runCommand(const QStringList& args, QTextStream& out, QTextStream& err) {
@@ -172,6 +263,9 @@ int runCommand(const QStringList& args, QTextStream& out, QTextStream& err) {
     }
     if (command == QStringLiteral("keys")) {
         return keys(args, out, err);
+    }
+    if (command == QStringLiteral("generate")) {
+        return generate(args, err);
     }
     return usage(err);
 }

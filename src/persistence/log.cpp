@@ -34,6 +34,10 @@ void modStatus(const Workspace& ws, const Context& ctx, QString& text) {
                          QStringLiteral("]     ") + text + QStringLiteral("\r\n");
     // Opened and closed for each line, so the file can be copied at any moment and the line
     // is on disk when this returns. No text mode: the line already carries its CR LF.
+    // A run without a log, as the headless tool's, has no file name.
+    if (ws.gLogFile.isEmpty()) {
+        return;
+    }
     QFile file(ws.gLogFile);
     if (!isReadOnlyFile(ws.gLogFile) && file.open(QIODevice::WriteOnly | QIODevice::Append)) {
         file.write(line.toUtf8());

@@ -74,6 +74,13 @@ TEST_F(Cli, AnswersAndUsage) {
         {texts({"interpret", "9am", "5pm"}), 2, ""},
         {texts({"resave", "--working", "in.ini"}), 2, ""},
         {texts({"keys"}), 2, ""},
+        {texts({"generate", "in.dko", "out.dko"}), 2, ""},
+        {texts({"generate", "in.dko", "out.dko", "--engine", "best"}), 2, ""},
+        {texts({"generate", "in.dko", "--engine", "mixed"}), 2, ""},
+        {texts({"generate", "in.dko", "out.dko", "--engine", "shuffled", "--base", "2"}), 2, ""},
+        {texts({"generate", "in.dko", "out.dko", "--engine", "mixed", "--seed", "16777216"}), 2,
+         ""},
+        {texts({"generate", "in.dko", "out.dko", "--engine", "mixed", "--fast"}), 2, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.args.join(QLatin1Char(' ')).toStdString());
@@ -107,6 +114,64 @@ TEST_F(Cli, KeysTellAgentsOfOneNameApart) {
     EXPECT_EQ(lines[3], QStringLiteral("4\tFischer\tAnna (F.)"));
     EXPECT_EQ(lines[4], QStringLiteral("5\tGarcia (M.)\tMaria"));
     EXPECT_EQ(lines[5], QStringLiteral("6\tGarcia (R.)\tRoberto"));
+}
+
+// The schedule file's cell of a day's first position: "n=day|1|0|key".
+QString firstCellOf(const QByteArray& file, int day) {
+    const QString marker = QStringLiteral("=%1|1|0|").arg(day);
+    for (const QString& line : QString::fromUtf8(file).split(QStringLiteral("\r\n"))) {
+        if (line.contains(marker)) {
+            return line.section(QLatin1Char('|'), 3);
+        }
+    }
+    return {};
+}
+
+// The same seed deals the same schedule; each question of the command is answered Yes and
+// shown on standard error.
+TEST_F(Cli, GeneratesTheSameScheduleFromTheSameSeed) {
+    const QString in = example("Example Office.dko");
+    const QString out = work.filePath(QStringLiteral("out.dko"));
+    const QString again = work.filePath(QStringLiteral("again.dko"));
+    const QString other = work.filePath(QStringLiteral("other.dko"));
+    for (const char* engine : {"smartrandom", "shuffled", "horizontal", "mixed"}) {
+        SCOPED_TRACE(engine);
+        const auto generate = [&](const QString& target, const char* seed) {
+            return run({QStringLiteral("generate"), in, target, QStringLiteral("--engine"),
+                        QString::fromUtf8(engine), QStringLiteral("--seed"),
+                        QString::fromUtf8(seed)});
+        };
+        const Result r = generate(out, "4242");
+        EXPECT_EQ(r.code, 0);
+        EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + in +
+                             QStringLiteral(": Generating a new schedule will erase the previous "
+                                            "schedule.  Would you like to proceed?\n"));
+        EXPECT_EQ(generate(again, "4242").code, 0);
+        EXPECT_EQ(bytesOf(again), bytesOf(out));
+        EXPECT_EQ(generate(other, "77").code, 0);
+        // A serial engine draws only where it starts.
+        EXPECT_NE(bytesOf(other), bytesOf(out));
+        // The 2nd is the month's first working day: the 1st is a holiday.
+        EXPECT_FALSE(firstCellOf(bytesOf(out), 2).isEmpty());
+        EXPECT_TRUE(firstCellOf(bytesOf(out), 1).isEmpty());
+    }
+    // Agent 5 takes the first position: Saturday the 2nd going day by day, Sunday the 3rd
+    // when the weekends come first.
+    const struct {
+        const char* engine;
+        int day;
+    } serial[] = {{"horizontal", 2}, {"mixed", 3}};
+    for (const auto& c : serial) {
+        SCOPED_TRACE(c.engine);
+        const auto generate = [&](const char* base) {
+            return run({QStringLiteral("generate"), in, out, QStringLiteral("--engine"),
+                        QString::fromUtf8(c.engine), QStringLiteral("--base"),
+                        QString::fromUtf8(base)});
+        };
+        EXPECT_EQ(generate("5").code, 0);
+        EXPECT_EQ(firstCellOf(bytesOf(out), c.day), QStringLiteral("Garcia (M.)"));
+        EXPECT_EQ(generate("13").code, 1);
+    }
 }
 
 // A file that cannot be read or written, or a schedule of another version: status 1 and one

@@ -1,0 +1,176 @@
+#include "generation/generate.h"
+#include "fakes.h"
+#include "persistence/textfile.h"
+#include "shell/agentkeys.h"
+#include "shell/session.h"
+#include "shell/textrules.h"
+#include "workspace/workspace.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// An office of agents named A1..An with a table of one weekday shift of `needed` agents.
+struct Office {
+    explicit Office(int agents, int needed) {
+        openMonth(ws, 2027, 3, home.path());
+        ws.gAgentCount = agents;
+        ws.redimAgents(agents);
+        for (int a = 1; a <= agents; ++a) {
+            ws.gAgentLast[a] = QStringLiteral("A") + QString::number(a);
+            ws.gAgentFirst[a] = QStringLiteral("F");
+        }
+        modBuildAgentKeys(ws);
+        if (needed > 0) {
+            ws.gShiftCount[3] = 1;
+            ws.gShiftAgents[3][1] = needed - 1;
+        }
+    }
+    QStringList log() const {
+        return readTextFile(ws.gLogFile).value_or(QString()).split(QStringLiteral("\r\n"));
+    }
+
+    QTemporaryDir home;
+    TestServices s;
+    Workspace ws;
+};
+
+const QString kReplace = QStringLiteral(
+    "Generating a new schedule will erase the previous schedule.  Would you like to proceed?");
+const QString kTwice = QStringLiteral(
+    "With the current configuration, an agent may be scheduled "
+    "twice in a day.  Would you like to proceed anyway?");
+const QString kAdjacent = QStringLiteral(
+    "With the current configuration, an agent may be "
+    "scheduled on adjacent days.  Would you like to proceed "
+    "anyway?");
+
+bool logged(const QStringList& log, const QString& line) {
+    return std::any_of(log.begin(), log.end(),
+                       [&line](const QString& entry) { return entry.endsWith(line); });
+}
+
+}  // namespace
+
+// The ratio of agents to the busiest weekday decides the warning; only a No stops.
+TEST(Generate, WarnsByTheRatioOfAgentsToTheBusiestDay) {
+    struct Case {
+        const char* what;
+        int agents;
+        int needed;
+        int generated;
+        std::vector<MsgAnswer> answers;
+        QStringList asked;
+        bool goesOn;
+        double ratio;
+    };
+    const Case cases[] = {
+        {"twice as many agents", 10, 5, 0, {}, {}, true, 2.0},
+        {"nine for five", 9, 5, 0, {MsgAnswer::Yes}, {kAdjacent}, true, 1.8},
+        {"exactly as many", 5, 5, 0, {MsgAnswer::Yes}, {kAdjacent}, true, 1.0},
+        {"too few", 4, 5, 0, {MsgAnswer::Yes}, {kTwice}, true, 0.8},
+        {"too few, No", 4, 5, 0, {MsgAnswer::No}, {kTwice}, false, 0.8},
+        {"a schedule to replace, No", 10, 5, 1, {MsgAnswer::No}, {kReplace}, false, 0.0},
+        {"a schedule to replace, then adjacent days, No",
+         9,
+         5,
+         1,
+         {MsgAnswer::Yes, MsgAnswer::No},
+         {kReplace, kAdjacent},
+         false,
+         1.8},
+        // No positions at all: the last ratio stands, here the unset 0, and the warning with it.
+        {"no positions", 3, 0, 0, {MsgAnswer::Yes}, {kTwice}, true, 0.0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Office office(c.agents, c.needed);
+        Workspace& ws = office.ws;
+        ws.gScheduleGenerated = c.generated;
+        ws.gCalendarAgentIndex = 4;
+        ws.schedule(2, 1, 0) = QStringLiteral("Kept");
+        ws.gGridTitle = QStringLiteral("Mine");
+        office.s.dialogs.answers.assign(c.answers.begin(), c.answers.end());
+
+        EXPECT_EQ(modPrepareGenerate(ws, office.s.ctx, kEngineShuffled), c.goesOn);
+
+        QStringList asked;
+        for (const auto& shown : office.s.dialogs.shown) {
+            asked.append(shown.text);
+            EXPECT_EQ(shown.icon, MsgIcon::Exclamation);
+            EXPECT_EQ(shown.buttons, MsgButtons::YesNo);
+            EXPECT_EQ(shown.defaultButton, 2);
+        }
+        QStringList wrapped;
+        for (const QString& question : c.asked) {
+            wrapped.append(modWrapMessage(question, office.s.dialogs));
+        }
+        EXPECT_EQ(asked, wrapped);
+        EXPECT_DOUBLE_EQ(ws.gAgentRatio, c.ratio);
+        EXPECT_EQ(ws.schedule(2, 1, 0), QStringLiteral("Kept"));
+        EXPECT_EQ(ws.gDirty.has_value(), c.goesOn);
+        EXPECT_EQ(ws.gGridTitle,
+                  c.goesOn ? QStringLiteral("March 2027 Desko Schedule") : QStringLiteral("Mine"));
+        if (c.generated == 0 || c.goesOn) {
+            EXPECT_EQ(ws.gCalendarAgentIndex, 0);
+        }
+        const QStringList log = office.log();
+        EXPECT_EQ(logged(log, QStringLiteral("Generating a schedule")), c.goesOn);
+        EXPECT_EQ(logged(log, QStringLiteral("Some agents may be scheduled twice in a day due to "
+                                             "configuration")),
+                  c.goesOn && c.asked.contains(kTwice));
+        EXPECT_EQ(logged(log, QStringLiteral("Some agents may be scheduled on adjacent days due "
+                                             "to configuration")),
+                  c.goesOn && c.asked.contains(kAdjacent));
+    }
+}
+
+TEST(Generate, ChoosesTheEngineByItsListIndex) {
+    const struct {
+        int listIndex;
+        int engine;
+        const char* line;
+    } cases[] = {
+        {-1, 0, "Using SmartRandom engine for schedule generation"},
+        {0, 0, "Using SmartRandom engine for schedule generation"},
+        {1, 1, "Using Shuffled engine for schedule generation"},
+        {2, 2, "Using Serial (horizontal) engine for schedule generation"},
+        {3, 3, "Using Serial (mixed) engine for schedule generation"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.listIndex);
+        Office office(10, 5);
+        EXPECT_TRUE(modPrepareGenerate(office.ws, office.s.ctx, c.listIndex));
+        EXPECT_EQ(office.ws.gEngine, c.engine);
+        EXPECT_TRUE(logged(office.log(), QString::fromUtf8(c.line)));
+    }
+}
+
+// Every engine starts from an erased schedule, days outside the month included; a serial
+// engine starts after a drawn agent, or after the one it is given.
+TEST(Generate, RunsTheEngineOnAnErasedSchedule) {
+    for (const int engine :
+         {kEngineSmartRandom, kEngineShuffled, kEngineHorizontal, kEngineMixed}) {
+        SCOPED_TRACE(engine);
+        Office office(10, 5);
+        Workspace& ws = office.ws;
+        ws.gEngine = engine;
+        ws.gAgentRatio = 2.0;
+        ws.schedule(0, 0, 0) = QStringLiteral("Old");
+        ws.schedule(37, 6, 4) = QStringLiteral("Old");
+        office.s.ctx.random.setState(99);
+        modRunEngine(ws, office.s.ctx);
+        EXPECT_EQ(ws.schedule(37, 6, 4), QString());
+        EXPECT_EQ(ws.schedule(0, 0, 0), QString());
+        // March 2027 begins on a Monday: the 3rd is its first Wednesday.
+        EXPECT_FALSE(ws.schedule(3, 1, 4).isEmpty());
+        EXPECT_TRUE(ws.schedule(2, 1, 0).isEmpty());
+    }
+    Office office(10, 5);
+    office.ws.gEngine = kEngineHorizontal;
+    modRunEngine(office.ws, office.s.ctx, {}, 6);
+    EXPECT_EQ(office.ws.gBaseAgent, 6);
+    EXPECT_EQ(office.ws.schedule(3, 1, 0), QStringLiteral("A7"));
+}

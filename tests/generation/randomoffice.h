@@ -23,10 +23,11 @@ inline void makeRandomOffice(Workspace& ws, std::uint32_t seed) {
     modSetupMonth(ws);
     const int days = ws.currentMonthDays();
 
-    static const QStringList lasts = {"Adams", "Baker", "Clark", "Davis", "Evans", "Ford",
-                                      "Green", "Hill",  "Irwin", "Jones", "King",  "Lee"};
-    static const QStringList firsts = {"Ann", "Bob", "Cy",  "Dee", "Ed",  "Flo",
-                                       "Gus", "Hal", "Ivy", "Jo",  "Kim", "Lou"};
+    static const QStringList lasts =
+        QStringLiteral("Adams Baker Clark Davis Evans Ford Green Hill Irwin Jones King Lee")
+            .split(QLatin1Char(' '));
+    static const QStringList firsts =
+        QStringLiteral("Ann Bob Cy Dee Ed Flo Gus Hal Ivy Jo Kim Lou").split(QLatin1Char(' '));
     const int agents = 1 + below(60);
     ws.gAgentCount = agents;
     ws.redimAgents(agents);

@@ -1,0 +1,355 @@
+#include "fakes.h"
+#include "generation/engines.h"
+#include "handmadeoffice.h"
+#include "persistence/log.h"
+#include "randomoffice.h"
+#include "shell/session.h"
+#include "workspace/workspace.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+namespace {
+
+using Engine = void (*)(Workspace&, Context&, int&);
+
+// The rota written out plainly as its rules read, with nothing taken from the
+// engines, so that they can be held to it on many offices.
+struct PlainRota {
+    Workspace& ws;
+    Context& ctx;
+    int& c;
+    int tries = 0;
+
+    void start(const QString& line) {
+        int base = c + 1;
+        if (base > ws.gAgentCount) {
+            base = 1;
+        }
+        modStatus(ws, ctx, line);
+        modStatus(ws, ctx,
+                  QStringLiteral("Base agent is ") + ws.gAgentFirst[base] + QStringLiteral(" ") +
+                      ws.gAgentLast[base]);
+        ws.gBaseAgent = c;
+    }
+
+    void place(int d, int s, int k) {
+        const int w = (d + 6 + ws.gFirstWeekday) % 7;
+    move:
+        c = c + 1;
+        tries = tries + 1;
+        if (c > ws.gAgentCount) {
+            c = 1;
+        }
+        if (tries > 150) {
+            goto write;
+        }
+        if (ws.gVacation[c][d] == 1 || ws.gRestriction[c][w][s] == 1) {
+            goto move;
+        }
+    write:
+        ws.schedule(d, s, k) = ws.gAgentKey[c];
+        tries = 0;
+    }
+
+    void horizontal() {
+        start(QStringLiteral("Generating a schedule using the Serial Horizontal engine"));
+        for (int d = 1; d <= ws.gMonthDays[ws.gCurrentMonth]; ++d) {
+            if (ws.gHoliday[d] == 1) {
+                continue;
+            }
+            const int w = (d + 6 + ws.gFirstWeekday) % 7;
+            for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+                for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                    place(d, s, k);
+                }
+            }
+        }
+    }
+
+    void mixed() {
+        start(QStringLiteral("Generating a schedule using the Serial Mixed engine"));
+        for (const int w : {0, 6}) {
+            int f = w + 1 - ws.gFirstWeekday;
+            if (f < 1) {
+                f = f + 7;
+            }
+            int l = f + 28;
+            if (l > ws.gMonthDays[ws.gCurrentMonth]) {
+                l = l - 7;
+            }
+            if (w == 0) {
+                for (int d = f; d <= l; d += 7) {
+                    if (ws.gHoliday[d] == 1) {
+                        continue;
+                    }
+                    for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+                        for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                            place(d, s, k);
+                        }
+                    }
+                }
+            } else {
+                for (int d = l; d >= f; d -= 7) {
+                    if (ws.gHoliday[d] == 1) {
+                        continue;
+                    }
+                    for (int s = ws.gShiftCount[w]; s >= 1; --s) {
+                        for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                            place(d, s, k);
+                        }
+                    }
+                }
+            }
+        }
+        for (int d = 1; d <= ws.gMonthDays[ws.gCurrentMonth]; ++d) {
+            const int w = (d + 6 + ws.gFirstWeekday) % 7;
+            if (w == 0 || w == 6 || ws.gHoliday[d] == 1) {
+                continue;
+            }
+            for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+                for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                    place(d, s, k);
+                }
+            }
+        }
+    }
+};
+
+// Text in every cell, for the engines to write over or leave alone.
+void fillWithOldSchedule(Workspace& ws) {
+    std::fill(ws.gSchedule.begin(), ws.gSchedule.end(), QStringLiteral("old"));
+}
+
+}  // namespace
+
+TEST(SerialEngines, FollowThePlainRotaOnRandomOffices) {
+    QTemporaryDir home;
+    TestServices s;
+    int runs = 0;
+    for (std::uint32_t seed = 1; seed <= 300; ++seed) {
+        SCOPED_TRACE(seed);
+        Workspace office;
+        makeRandomOffice(office, seed);
+        fillWithOldSchedule(office);
+        handmade::loseLogLines(office, home);
+        for (const bool mixed : {false, true}) {
+            const Engine engine = mixed ? modGenerateSerialMixed : modGenerateSerialHorizontal;
+            for (int cursor = 0; cursor <= office.gAgentCount; ++cursor) {
+                Workspace shipped = office;
+                Workspace plain = office;
+                int shippedCursor = cursor;
+                int plainCursor = cursor;
+                s.ctx.random.setState(seed);
+                engine(shipped, s.ctx, shippedCursor);
+                ASSERT_EQ(s.ctx.random.state(), seed) << "a rota draws nothing";
+                PlainRota rota{plain, s.ctx, plainCursor};
+                mixed ? rota.mixed() : rota.horizontal();
+                ASSERT_EQ(shipped.gSchedule, plain.gSchedule)
+                    << "mixed " << mixed << " cursor " << cursor;
+                ASSERT_EQ(shippedCursor, plainCursor);
+                ASSERT_EQ(shipped.gBaseAgent, cursor);
+                ++runs;
+            }
+        }
+    }
+    EXPECT_GT(runs, 15000);
+}
+
+// With more agents than the month has positions, the agent a day gets tells when the day
+// was visited: the i-th day visited gets the i-th agent after the cursor.
+TEST(SerialEngines, VisitTheDaysInTheirOrder) {
+    struct Case {
+        const char* what;
+        Engine engine;
+        int year;
+        int month;
+        std::vector<int> holidays;
+        // The weekend days the engine serves first, in order; the other days follow upward.
+        std::vector<int> weekendsFirst;
+    };
+    const Engine horizontal = modGenerateSerialHorizontal;
+    const Engine mixed = modGenerateSerialMixed;
+    const Case cases[] = {
+        {"horizontal goes day by day", horizontal, 2023, 1, {}, {}},
+        {"horizontal leaves holidays out", horizontal, 2023, 1, {7, 10}, {}},
+        {"Sunday the 1st, 31 days", mixed, 2023, 1, {}, {1, 8, 15, 22, 29, 28, 21, 14, 7}},
+        {"Sunday the 1st, 29 days", mixed, 2004, 2, {}, {1, 8, 15, 22, 29, 28, 21, 14, 7}},
+        {"Sunday the 1st, 28 days", mixed, 2026, 2, {}, {1, 8, 15, 22, 28, 21, 14, 7}},
+        {"Monday the 1st", mixed, 2024, 1, {}, {7, 14, 21, 28, 27, 20, 13, 6}},
+        {"Saturday the 1st", mixed, 2022, 1, {}, {2, 9, 16, 23, 30, 29, 22, 15, 8, 1}},
+        // The cursor does not move for a weekend day that is a holiday.
+        {"weekend holidays", mixed, 2023, 1, {3, 15, 21}, {1, 8, 22, 29, 28, 14, 7}},
+    };
+    constexpr int kAgents = 40;
+    constexpr int kCursor = 5;
+    QTemporaryDir home;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        TestServices s;
+        Workspace ws;
+        handmade::makeOffice(ws, c.year, c.month, kAgents);
+        handmade::loseLogLines(ws, home);
+        fillWithOldSchedule(ws);
+        std::vector<int> order = c.weekendsFirst;
+        for (int d = 1; d <= ws.currentMonthDays(); ++d) {
+            if (std::count(order.begin(), order.end(), d) == 0 &&
+                std::count(c.holidays.begin(), c.holidays.end(), d) == 0) {
+                order.push_back(d);
+            }
+        }
+        for (const int d : c.holidays) {
+            ws.gHoliday[d] = 1;
+        }
+        int cursor = kCursor;
+        c.engine(ws, s.ctx, cursor);
+
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            EXPECT_EQ(handmade::agentIn(ws, order[i], 1, 0),
+                      (kCursor + static_cast<int>(i)) % kAgents + 1)
+                << "day " << order[i];
+        }
+        EXPECT_EQ(cursor, (kCursor + static_cast<int>(order.size()) - 1) % kAgents + 1);
+        for (const int d : c.holidays) {
+            EXPECT_EQ(ws.schedule(d, 1, 0), QStringLiteral("old")) << "holiday " << d;
+        }
+        EXPECT_EQ(ws.schedule(0, 1, 0), QStringLiteral("old"));
+    }
+}
+
+// One position a day in a month starting on Sunday, the 1st of January 2023: who takes
+// the first days, for a start cursor and the agents barred from some of them.
+TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
+    struct Case {
+        const char* what;
+        int agents;
+        int cursor;
+        std::function<void(Workspace&)> bar;
+        std::vector<int> firstDays;
+    };
+    const auto away = [](int from, int to, int day) {
+        return [=](Workspace& ws) {
+            for (int a = from; a <= to; ++a) {
+                ws.gVacation[a][day] = 1;
+            }
+        };
+    };
+    const Case cases[] = {
+        {"the base agent away on the first day", 5, 0, away(1, 1, 1), {2, 3, 4, 5, 1}},
+        {"a restriction passes the agent over",
+         5,
+         2,
+         [](Workspace& ws) { ws.gRestriction[3][0][1] = 1; },  // Sundays, shift 1
+         {4, 5, 1, 2, 3}},
+        {"the cursor at the end of the list starts at agent 1", 5, 5, {}, {1, 2, 3}},
+        // The cursor goes round the list of seven 21 times and more: 151 places from agent
+        // 2, it stops on agent 6, who is away too.
+        {"everybody away: 151 tries", 7, 0, away(1, 7, 3), {1, 2, 6, 7, 1}},
+        // 151 agents away: the limit gives day 1 to agent 151 while agent 152 is free.
+        {"the limit comes before a free agent", 200, 0, away(1, 151, 1), {151, 152, 153}},
+    };
+    QTemporaryDir home;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        TestServices s;
+        Workspace ws;
+        handmade::makeOffice(ws, 2023, 1, c.agents);
+        handmade::loseLogLines(ws, home);
+        if (c.bar) {
+            c.bar(ws);
+        }
+        int cursor = c.cursor;
+        modGenerateSerialHorizontal(ws, s.ctx, cursor);
+        std::vector<int> got;
+        for (int d = 1; d <= static_cast<int>(c.firstDays.size()); ++d) {
+            got.push_back(handmade::agentIn(ws, d, 1, 0));
+        }
+        EXPECT_EQ(got, c.firstDays);
+    }
+}
+
+// Sundays take their shifts upward and Saturdays downward, the slots of a shift always
+// upward; here only weekends have shifts.
+TEST(SerialEngines, MixedWalksSaturdayShiftsDownwardAndTheirSlotsUpward) {
+    QTemporaryDir home;
+    TestServices s;
+    Workspace ws;
+    handmade::makeOffice(ws, 2023, 1, 40);
+    handmade::loseLogLines(ws, home);
+    for (int w = 0; w < kWeekdays; ++w) {
+        ws.gShiftCount[w] = 0;
+    }
+    ws.gShiftCount[0] = 2;
+    ws.gShiftAgents[0] = {0, 0, 1};
+    ws.gShiftCount[6] = 3;
+    ws.gShiftAgents[6] = {0, 1, 0, 2};
+    int cursor = 0;
+    modGenerateSerialMixed(ws, s.ctx, cursor);
+
+    struct Cell {
+        int day, shift, slot;
+    };
+    // Five Sundays of three positions take agents 1 to 15; then the last Saturday.
+    const Cell firstSaturday[] = {{28, 3, 0}, {28, 3, 1}, {28, 3, 2},
+                                  {28, 2, 0}, {28, 1, 0}, {28, 1, 1}};
+    EXPECT_EQ(handmade::agentIn(ws, 1, 1, 0), 1);
+    EXPECT_EQ(handmade::agentIn(ws, 1, 2, 0), 2);
+    EXPECT_EQ(handmade::agentIn(ws, 1, 2, 1), 3);
+    int agent = 16;
+    for (const Cell& cell : firstSaturday) {
+        EXPECT_EQ(handmade::agentIn(ws, cell.day, cell.shift, cell.slot), agent++)
+            << cell.day << "/" << cell.shift << "/" << cell.slot;
+    }
+    EXPECT_EQ(handmade::agentIn(ws, 21, 3, 0), 22);
+    EXPECT_EQ(cursor, 39);  // 15 Sunday and 24 Saturday positions
+}
+
+// The log names the engine and the agent after the cursor; a month without positions gets
+// nothing else.
+TEST(SerialEngines, LogTheEngineAndTheBaseAgent) {
+    struct Case {
+        const char* what;
+        Engine engine;
+        int cursor;
+        bool positions;
+        const char* log;
+    };
+    const Case cases[] = {
+        {"horizontal, cursor at the end", modGenerateSerialHorizontal, 5, true,
+         "[09:14:03]     Generating a schedule using the Serial Horizontal engine\r\n"
+         "[09:14:03]     Base agent is Ann1 Agent001\r\n"},
+        {"mixed, no positions", modGenerateSerialMixed, 2, false,
+         "[09:14:03]     Generating a schedule using the Serial Mixed engine\r\n"
+         "[09:14:03]     Base agent is Ann3 Agent003\r\n"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        QTemporaryDir home;
+        TestServices s;
+        Workspace ws;
+        modInitSession(ws, home.path());
+        handmade::makeOffice(ws, 2023, 1, 5);
+        if (!c.positions) {
+            handmade::setTable(ws, 0, 1);
+        }
+        fillWithOldSchedule(ws);
+        const std::vector<QString> before = ws.gSchedule;
+        int cursor = c.cursor;
+        c.engine(ws, s.ctx, cursor);
+
+        QFile log(ws.gLogFile);
+        ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+        EXPECT_EQ(log.readAll().toStdString(), c.log);
+        EXPECT_EQ(ws.gBaseAgent, c.cursor);
+        if (!c.positions) {
+            EXPECT_EQ(cursor, c.cursor);
+            EXPECT_EQ(ws.gSchedule, before);
+        }
+    }
+}

@@ -4,6 +4,8 @@
 #include "shell/clock.h"
 #include "shell/context.h"
 #include "shell/dialogs.h"
+#include "shell/session.h"
+#include "workspace/workspace.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -100,6 +102,18 @@ private:
         return name;
     }
 };
+
+// A workspace in the given month with its name tables and calendar; given a home, also with
+// its working file and log there, as after a start in that folder.
+inline void openMonth(Workspace& ws, int year, int month, const QString& home = QString()) {
+    if (!home.isEmpty()) {
+        modInitSession(ws, home);
+    }
+    modInitNameTables(ws);
+    ws.gCurrentYear = year;
+    ws.gCurrentMonth = month;
+    modSetupMonth(ws);
+}
 
 // The services of a test run, wired together.
 struct TestServices {

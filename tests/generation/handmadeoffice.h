@@ -1,0 +1,56 @@
+#pragma once
+
+#include "fakes.h"
+#include "shell/agentkeys.h"
+#include "workspace/workspace.h"
+
+#include <QString>
+#include <QTemporaryDir>
+
+// Small offices written by hand for the deal-out engines' tests.
+namespace handmade {
+
+// A month with agents 1..agents whose keys are "Agent001", "Agent002" … and first names
+// "Ann1", "Ann2" …, and a weekly table of one shift of one agent every day.
+inline void makeOffice(Workspace& ws, int year, int month, int agents) {
+    openMonth(ws, year, month);
+    ws.gAgentCount = agents;
+    ws.redimAgents(agents);
+    for (int a = 1; a <= agents; ++a) {
+        ws.gAgentLast[a] = QStringLiteral("Agent%1").arg(a, 3, 10, QLatin1Char('0'));
+        ws.gAgentFirst[a] = QStringLiteral("Ann%1").arg(a);
+    }
+    modBuildAgentKeys(ws);
+    for (int w = 0; w < kWeekdays; ++w) {
+        ws.gShiftCount[w] = 1;
+        ws.gShiftAgents[w][1] = 0;
+    }
+}
+
+// Sends the log to a directory that does not exist, where its lines are lost quietly.
+inline void loseLogLines(Workspace& ws, const QTemporaryDir& home) {
+    ws.gLogFile = home.filePath(QStringLiteral("missing/Desko40.log"));
+}
+
+// The same number of shifts, each of the same number of agents, on every weekday.
+inline void setTable(Workspace& ws, int shifts, int agentsPerShift) {
+    for (int w = 0; w < kWeekdays; ++w) {
+        ws.gShiftCount[w] = shifts;
+        for (int s = 1; s <= shifts; ++s) {
+            ws.gShiftAgents[w][s] = agentsPerShift - 1;
+        }
+    }
+}
+
+// The agent whose key a cell holds; 0 for a cell that holds none.
+inline int agentIn(const Workspace& ws, int day, int shift, int slot) {
+    const QString& cell = ws.schedule(day, shift, slot);
+    for (int a = 1; a <= ws.gAgentCount; ++a) {
+        if (!cell.isEmpty() && ws.gAgentKey[a] == cell) {
+            return a;
+        }
+    }
+    return 0;
+}
+
+}  // namespace handmade
