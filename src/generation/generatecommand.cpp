@@ -1,1 +1,81 @@
-#include "generation/engines.h"
+// The generate command of the main window: the questions and the engine run in the logic,
+// and the window shows the status frame, follows SmartRandom's progress with the bar and
+// the agent list, and hands the result to the review form.
+
+#include "generation/frmWholeCalendar.h"
+#include "generation/generate.h"
+#include "shell/context.h"
+#include "shell/formhelpers.h"
+#include "shell/frmMain.h"
+#include "workspace/workspace.h"
+
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+void frmMain::connectGenerate() {
+    connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
+}
+
+void frmMain::cmdGenerate_Click() {
+    if (!modPrepareGenerate(ws_, ctx_, cmbGenerate->currentIndex())) {
+        return;
+    }
+    modHourglass();
+    fraDate->hide();
+    fraStatus->show();
+    labStatus->setText(QStringLiteral("Generating a schedule . . ."));
+    // Once would do; the command has always entered the busy state three times.
+    modEnterBusyState();
+    modEnterBusyState();
+    modEnterBusyState();
+    modHourglass();
+    modDoEvents();
+
+    SmartRandomProgress progress;
+    const bool smartRandom = ws_.gEngine == kEngineSmartRandom;
+    if (smartRandom) {
+        labStatus->clear();
+        labStatusHigh->setText(QStringLiteral("Generating a schedule . . ."));
+        picStatus->show();
+        showProgress(0.0);
+        modDoEvents();
+        progress.placed = [this](int agent, double done) {
+            lstAgents->setCurrentRow(agent - 1);
+            showProgress(done);
+            modDoEvents();
+        };
+        progress.repairing = [this] {
+            labStatusHigh->setText(QStringLiteral("Fixing the schedule . . ."));
+            modDoEvents();
+            show();
+        };
+        progress.exchanged = [this](int agent) { lstAgents->setCurrentRow(agent - 1); };
+    }
+    modRunEngine(ws_, ctx_, progress);
+    if (smartRandom) {
+        modDoEvents();
+    }
+    showWholeCalendar();
+    if (smartRandom) {
+        picStatus->hide();
+    }
+}
+
+// The bar fills the sunken box from the left by the share of positions done.
+void frmMain::showProgress(double done) {
+    const int full = picStatus->width() - 2;
+    shpStatus->setGeometry(1, 1, static_cast<int>(full * done), picStatus->height() - 2);
+}
+
+void frmMain::showWholeCalendar() {
+    if (wholeCalendar_) {
+        wholeCalendar_->show();
+        return;
+    }
+    // Its load shows it in this window's place and hides this window.
+    wholeCalendar_ = new frmWholeCalendar(ws_, ctx_, *this);
+}

@@ -340,50 +340,43 @@ void frmMain::cmdDelete_Click() {
 }
 
 // The constraint buttons all hang on the agent list, and each wants an agent chosen, even
-// Holidays and Notes, which concern no one agent.
-void frmMain::cmdVacations_Click() {
+// Holidays and Notes, which concern no one agent. The day picker and the restrictions editor
+// that read the mode they set join as they are built.
+std::optional<int> frmMain::constraintAgent() {
     modHourglass();
     const int selected = lstAgents->currentRow();
     if (!agentChosen(selected, ctx_.dialogs)) {
         modNormalPointer();
-        return;
+        return std::nullopt;
     }
-    ws_.gDayPickerMode = 1;
-    ws_.gDayPickerAgent = selected + 1;
-    // The day picker that reads this is not built yet; nothing else takes the pointer back.
-    modNormalPointer();
+    return selected + 1;
+}
+
+void frmMain::cmdVacations_Click() {
+    if (const std::optional<int> agent = constraintAgent()) {
+        ws_.gDayPickerMode = 1;
+        ws_.gDayPickerAgent = *agent;
+        modNormalPointer();
+    }
 }
 
 void frmMain::cmdRestrictions_Click() {
-    modHourglass();
-    const int selected = lstAgents->currentRow();
-    if (!agentChosen(selected, ctx_.dialogs)) {
+    if (const std::optional<int> agent = constraintAgent()) {
+        ws_.gRestrictionAgent = *agent;
         modNormalPointer();
-        return;
     }
-    ws_.gRestrictionAgent = selected + 1;
-    // The restrictions editor that reads this is not built yet.
-    modNormalPointer();
 }
 
 void frmMain::cmdHolidays_Click() {
-    modHourglass();
-    if (!agentChosen(lstAgents->currentRow(), ctx_.dialogs)) {
+    if (constraintAgent()) {
+        ws_.gDayPickerMode = 0;
         modNormalPointer();
-        return;
     }
-    ws_.gDayPickerMode = 0;
-    // The day picker that reads this is not built yet.
-    modNormalPointer();
 }
 
 void frmMain::cmdNotes_Click() {
-    modHourglass();
-    if (!agentChosen(lstAgents->currentRow(), ctx_.dialogs)) {
+    if (constraintAgent()) {
+        ws_.gDayPickerMode = 2;
         modNormalPointer();
-        return;
     }
-    ws_.gDayPickerMode = 2;
-    // The day picker that reads this is not built yet.
-    modNormalPointer();
 }

@@ -35,4 +35,6 @@ void frmMain::modOpenFromCommandLine(QString& path) {
     modFillDayEditorCombos(ws_);
     ws_.gDirty = 0;
     path = QStringLiteral("0");
+    // Also a file without a generated schedule is shown in the review.
+    showWholeCalendar();
 }

@@ -130,8 +130,8 @@ void frmMain::mnuFOpen_Click() {
         modFillDayEditorCombos(ws_);
         ws_.gDirty = 0;
         if (ws_.gScheduleGenerated == 1) {
-            // The schedule's review form takes over from here and brings the window back to
-            // life when it closes. Until that form exists, the window stays busy.
+            // The review form takes over and brings the window back to life when it closes.
+            showWholeCalendar();
             modNormalPointer();
             return;
         }

@@ -1,5 +1,6 @@
 #include "shell/frmMain.h"
 
+#include "generation/frmWholeCalendar.h"
 #include "persistence/workspacefile.h"
 #include "shell/agentkeys.h"
 #include "shell/context.h"
@@ -184,9 +185,16 @@ frmMain::frmMain(Workspace& ws, Context& ctx, const QString& programFile, QWidge
     connectAgentCommands();
     connectFileCommands();
     connectMonthChange();
+    connectGenerate();
+    connectViewEdit();
     // One size, the one the controls need: the window is a form, not a canvas.
     setFixedSize(sizeHint());
     Form_Load();
+}
+
+// The review form is a window of its own; it goes with this one.
+frmMain::~frmMain() {
+    delete wholeCalendar_;
 }
 
 void frmMain::buildControls() {
@@ -264,6 +272,8 @@ void frmMain::buildControls() {
     statusLayout->addWidget(labStatus);
     statusLayout->addWidget(labStatusHigh);
     statusLayout->addWidget(picStatus);
+    // The bar is shown only while an engine reports its progress.
+    picStatus->hide();
     fraStatus->hide();
 
     // The commands on the month: view and edit, generate, print, export.

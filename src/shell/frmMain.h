@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
+#include <optional>
 
 class QAction;
 class QCheckBox;
@@ -15,6 +17,7 @@ class QListWidget;
 class QMenu;
 class QPushButton;
 class QScrollBar;
+class frmWholeCalendar;
 struct Context;
 struct Workspace;
 
@@ -29,6 +32,7 @@ public:
     // programFile is the name of the program's file without its path; the caption shows the
     // workspace's tag only under the program's own name.
     frmMain(Workspace& ws, Context& ctx, const QString& programFile, QWidget* parent = nullptr);
+    ~frmMain() override;
 
     void modEnterBusyState();
     void modLeaveBusyState();
@@ -70,6 +74,15 @@ public:
     void mnuFNew_Click();
     void mnuFOpen_Click();
     void mnuFSaveAs_Click();
+
+    // The generate command, and the review form it opens.
+    void cmdGenerate_Click();
+    void showWholeCalendar();
+
+    // The forms that the view/edit list and the Edit menu open.
+    enum class ViewForm { Schedule, DailyShifts, AllConstraints, FontsAndPrinter };
+    static std::optional<ViewForm> viewFormNamed(const QString& item);
+    void cmdViewEdit_Click();
 
     // The controls, as the other forms and commands reach them.
     QGroupBox* fraEditAgent;
@@ -169,10 +182,18 @@ private:
     void connectAgentCommands();
     void connectMonthChange();
     void connectFileCommands();
+    void connectGenerate();
+    std::optional<int> constraintAgent();
+    void connectViewEdit();
+    void showProgress(double done);
+    void openFromMenu(ViewForm form);
+    bool viewFormReady(ViewForm form);
+    void showViewForm(ViewForm form);
 
     Workspace& ws_;
     Context& ctx_;
     QString programFile_;
+    QPointer<frmWholeCalendar> wholeCalendar_;
     // Set when another of the program's windows took the activation from this one, so that
     // coming back rebuilds the controls; a message box or another application does not.
     bool activationLostToForm_ = false;

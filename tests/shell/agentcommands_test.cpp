@@ -31,11 +31,7 @@ class AgentCommands : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(home.isValid());
-        modInitSession(ws, home.path());
-        modInitNameTables(ws);
-        ws.gCurrentMonth = 1;
-        ws.gCurrentYear = 2027;
-        modSetupMonth(ws);
+        openMonth(ws, 2027, 1, home.path());
     }
 
     void withAgents(std::initializer_list<Name> names) {

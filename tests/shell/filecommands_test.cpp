@@ -45,11 +45,7 @@ using Kind = ScriptedDialogs::FileKind;
 // small office with a constraint of every kind.
 struct Office {
     Office() {
-        modInitSession(ws, home.path());
-        modInitNameTables(ws);
-        ws.gCurrentMonth = 1;
-        ws.gCurrentYear = 2027;
-        modSetupMonth(ws);
+        openMonth(ws, 2027, 1, home.path());
         ws.gAgentCount = 2;
         ws.redimAgents(2);
         ws.gAgentLast[1] = QStringLiteral("Brennan");

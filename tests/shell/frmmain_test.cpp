@@ -437,6 +437,8 @@ TEST_F(MainWindow, GenerateMenuChoosesTheEngineAndPresses) {
         withAgents(agents);
         ws.cmbGenerateListIndex = agents == 0 ? 2 : 1;
         open();
+        // The command itself stops at its first question.
+        s.dialogs.answers.assign(8, MsgAnswer::No);
         int presses = 0;
         QObject::connect(control<QPushButton>("cmdGenerate"), &QPushButton::clicked,
                          [&presses] { ++presses; });
