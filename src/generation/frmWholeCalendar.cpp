@@ -272,11 +272,10 @@ void frmWholeCalendar::labDay_MouseDown(int index) {
     }
     ws_.gSelectedDay = day;
     if (ws_.gHoliday[day] == 1) {
-        ctx_.dialogs.messageBox(
-            modWrapMessage(ws_.currentMonthName() + QLatin1Char(' ') + QString::number(day) +
-                               QStringLiteral(" is ") + ws_.gHolidayName[day] + QLatin1Char('.'),
-                           ctx_.dialogs),
-            MsgIcon::Information, MsgButtons::OK);
+        modMsgBox(ctx_.dialogs,
+                  ws_.currentMonthName() + QLatin1Char(' ') + QString::number(day) +
+                      QStringLiteral(" is ") + ws_.gHolidayName[day] + QLatin1Char('.'),
+                  MsgIcon::Information, MsgButtons::OK);
         return;
     }
     modHourglass();

@@ -13,8 +13,8 @@ namespace {
 
 // Every question of the command warns, and only a No stops it.
 bool goOn(Context& ctx, const QString& question) {
-    return ctx.dialogs.messageBox(modWrapMessage(question, ctx.dialogs), MsgIcon::Exclamation,
-                                  MsgButtons::YesNo, 2) != MsgAnswer::No;
+    return modMsgBox(ctx.dialogs, question, MsgIcon::Exclamation, MsgButtons::YesNo, 2) !=
+           MsgAnswer::No;
 }
 
 const std::array<QString, 4> kEngineLines = {

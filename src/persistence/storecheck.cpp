@@ -14,11 +14,9 @@ void modMigrateOrCheckStore(Workspace& ws, Context& ctx) {
         return;
     }
     modStatus(ws, ctx, QStringLiteral("INI file not found at ") + ws.gConfigFile);
-    ctx.dialogs.messageBox(
-        modWrapMessage(
-            QStringLiteral("The Desko for Windows configuration file, Desko40.ini, could "
-                           "not be found in the program directory.  The program will "
-                           "still run, but some configuration data may be lost."),
-            ctx.dialogs),
-        MsgIcon::Stop, MsgButtons::OK);
+    modMsgBox(ctx.dialogs,
+              QStringLiteral("The Desko for Windows configuration file, Desko40.ini, could "
+                             "not be found in the program directory.  The program will "
+                             "still run, but some configuration data may be lost."),
+              MsgIcon::Stop, MsgButtons::OK);
 }

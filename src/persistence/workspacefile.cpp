@@ -394,13 +394,11 @@ void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path) {
     ProfileFile file = ProfileFile::read(scheduleFile ? path : ws.gConfigFile);
     if (scheduleFile && !modReadProfileValue(file, kSettings, QStringLiteral("Version"))
                              .startsWith(QStringLiteral("4.0."))) {
-        ctx.dialogs.messageBox(
-            modWrapMessage(
-                QStringLiteral("The file you are attempting to open cannot be read by this "
-                               "version of the program.  Please open this DKO file using the "
-                               "version of Desko for Windows with which it was created."),
-                ctx.dialogs),
-            MsgIcon::Stop, MsgButtons::OK);
+        modMsgBox(ctx.dialogs,
+                  QStringLiteral("The file you are attempting to open cannot be read by this "
+                                 "version of the program.  Please open this DKO file using the "
+                                 "version of Desko for Windows with which it was created."),
+                  MsgIcon::Stop, MsgButtons::OK);
         return;
     }
     readAgents(ws, file);

@@ -74,8 +74,7 @@ bool agentChosen(int listIndex, Dialogs& dialogs) {
     if (listIndex >= 0) {
         return true;
     }
-    dialogs.messageBox(modWrapMessage(kSelectAnAgent, dialogs), MsgIcon::Exclamation,
-                       MsgButtons::OK);
+    modMsgBox(dialogs, kSelectAnAgent, MsgIcon::Exclamation, MsgButtons::OK);
     return false;
 }
 
@@ -194,8 +193,7 @@ void frmMain::cmdOK_Click() {
         if (!first.isEmpty() && !last.isEmpty()) {
             return false;
         }
-        ctx_.dialogs.messageBox(modWrapMessage(kEnterBothNames, ctx_.dialogs), MsgIcon::Exclamation,
-                                MsgButtons::OK);
+        modMsgBox(ctx_.dialogs, kEnterBothNames, MsgIcon::Exclamation, MsgButtons::OK);
         (first.isEmpty() ? txtFirstName : txtLastName)->setFocus();
         modNormalPointer();
         return true;
@@ -205,8 +203,8 @@ void frmMain::cmdOK_Click() {
         if (firstProper && hasProperCapitals(last)) {
             return false;
         }
-        const MsgAnswer answer = ctx_.dialogs.messageBox(
-            modWrapMessage(kCapitalsQuestion, ctx_.dialogs), MsgIcon::Question, MsgButtons::YesNo);
+        const MsgAnswer answer =
+            modMsgBox(ctx_.dialogs, kCapitalsQuestion, MsgIcon::Question, MsgButtons::YesNo);
         if (answer != MsgAnswer::Yes) {
             return false;
         }
@@ -217,11 +215,10 @@ void frmMain::cmdOK_Click() {
     const auto alreadyListed = [&](const QString& opening, int agent) {
         const auto at = static_cast<std::size_t>(agent);
         const QString names = fullName(ws_.gAgentFirst[at], ws_.gAgentLast[at]);
-        ctx_.dialogs.messageBox(
-            modWrapMessage(opening + agentArticle(ws_.gAgentFirst[at]) + QLatin1Char(' ') + names +
-                               QStringLiteral(".  Please enter a different name."),
-                           ctx_.dialogs),
-            MsgIcon::Exclamation, MsgButtons::OK);
+        modMsgBox(ctx_.dialogs,
+                  opening + agentArticle(ws_.gAgentFirst[at]) + QLatin1Char(' ') + names +
+                      QStringLiteral(".  Please enter a different name."),
+                  MsgIcon::Exclamation, MsgButtons::OK);
         return names;
     };
 
@@ -295,12 +292,12 @@ void frmMain::cmdDelete_Click() {
     }
     const auto agent = static_cast<std::size_t>(selected) + 1;
     const QString names = fullName(ws_.gAgentFirst[agent], ws_.gAgentLast[agent]);
-    const MsgAnswer answer = ctx_.dialogs.messageBox(
-        modWrapMessage(QStringLiteral("Deleting an agent will erase any vacations and shift "
-                                      "restrictions.  Are you sure you want to delete ") +
-                           names + QLatin1Char('?'),
-                       ctx_.dialogs),
-        MsgIcon::Question, MsgButtons::YesNo, 2);
+    const MsgAnswer answer =
+        modMsgBox(ctx_.dialogs,
+                  QStringLiteral("Deleting an agent will erase any vacations and shift "
+                                 "restrictions.  Are you sure you want to delete ") +
+                      names + QLatin1Char('?'),
+                  MsgIcon::Question, MsgButtons::YesNo, 2);
     if (answer != MsgAnswer::Yes) {
         return;
     }

@@ -58,12 +58,12 @@ void frmMain::mnuFile_Click() {
 void frmMain::mnuFNew_Click() {
     bool erasingSaid = true;
     if (ws_.gDirty == 1) {
-        const MsgAnswer answer = ctx_.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("Creating a new schedule will erase all shift "
-                                          "constraints.  Do you want to save the current "
-                                          "configuration before creating a new schedule?"),
-                           ctx_.dialogs),
-            MsgIcon::Exclamation, MsgButtons::YesNoCancel);
+        const MsgAnswer answer =
+            modMsgBox(ctx_.dialogs,
+                      QStringLiteral("Creating a new schedule will erase all shift "
+                                     "constraints.  Do you want to save the current "
+                                     "configuration before creating a new schedule?"),
+                      MsgIcon::Exclamation, MsgButtons::YesNoCancel);
         if (answer == MsgAnswer::Cancel) {
             return;
         }
@@ -96,11 +96,11 @@ void frmMain::mnuFNew_Click() {
 // caption then names the refused file over the old workspace, which counts as saved.
 void frmMain::mnuFOpen_Click() {
     if (ws_.gDirty == 1) {
-        const MsgAnswer answer = ctx_.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("Do you want to save the current configuration before "
-                                          "opening a desko schedule?"),
-                           ctx_.dialogs),
-            MsgIcon::Question, MsgButtons::YesNoCancel);
+        const MsgAnswer answer =
+            modMsgBox(ctx_.dialogs,
+                      QStringLiteral("Do you want to save the current configuration before "
+                                     "opening a desko schedule?"),
+                      MsgIcon::Question, MsgButtons::YesNoCancel);
         if (answer == MsgAnswer::Cancel) {
             return;
         }

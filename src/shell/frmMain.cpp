@@ -607,10 +607,8 @@ void frmMain::lstAgents_DblClick() {
 
 void frmMain::fraPrint_Click() {
     if (ws_.gScheduleGenerated == 0) {
-        ctx_.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("You must generate a schedule before printing."),
-                           ctx_.dialogs),
-            MsgIcon::Exclamation, MsgButtons::OK);
+        modMsgBox(ctx_.dialogs, QStringLiteral("You must generate a schedule before printing."),
+                  MsgIcon::Exclamation, MsgButtons::OK);
     }
 }
 

@@ -28,12 +28,12 @@ void frmMain::connectMonthChange() {
 void frmMain::vscDate_Change() {
     if (ws_.gHasHolidays == 1 || ws_.gHasNotedDays == 1 || ws_.gHasVacations == 1 ||
         ws_.gScheduleGenerated == 1) {
-        const MsgAnswer answer = ctx_.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("Changing the date of the calendar will erase the "
-                                          "schedule, as well as all holidays, vacations, and "
-                                          "notes.  Do you want to proceed anyway?"),
-                           ctx_.dialogs),
-            MsgIcon::Exclamation, MsgButtons::YesNo, 2);
+        const MsgAnswer answer =
+            modMsgBox(ctx_.dialogs,
+                      QStringLiteral("Changing the date of the calendar will erase the "
+                                     "schedule, as well as all holidays, vacations, and "
+                                     "notes.  Do you want to proceed anyway?"),
+                      MsgIcon::Exclamation, MsgButtons::YesNo, 2);
         // The bar keeps its new value and the last value stays: the next step is out of step.
         if (answer != MsgAnswer::Yes) {
             return;

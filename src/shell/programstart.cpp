@@ -50,11 +50,10 @@ DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& appPath,
     DeskoRun run;
     run.instance = claimProgramDirectory(appPath, otherRunning);
     if (otherRunning) {
-        ctx.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("You may run only one instance of Desko for Windows rev "
-                                          "4.0 at a time."),
-                           ctx.dialogs),
-            MsgIcon::Stop, MsgButtons::OK);
+        modMsgBox(ctx.dialogs,
+                  QStringLiteral("You may run only one instance of Desko for Windows rev "
+                                 "4.0 at a time."),
+                  MsgIcon::Stop, MsgButtons::OK);
         run.instance.reset();
         return run;
     }

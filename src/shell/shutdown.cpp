@@ -16,11 +16,11 @@ bool frmMain::Form_Unload() {
     ws_.gSaveDone = 0;
     modSaveWorkspace(ws_, ctx_, QString());
     if (ws_.gDirty == 1) {
-        const MsgAnswer answer = ctx_.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("The current desko schedule has not been saved.  Do you "
-                                          "want to save the changes?"),
-                           ctx_.dialogs),
-            MsgIcon::Question, MsgButtons::YesNoCancel);
+        const MsgAnswer answer =
+            modMsgBox(ctx_.dialogs,
+                      QStringLiteral("The current desko schedule has not been saved.  Do you "
+                                     "want to save the changes?"),
+                      MsgIcon::Question, MsgButtons::YesNoCancel);
         if (answer == MsgAnswer::Cancel) {
             modStatus(ws_, ctx_, QStringLiteral("Cancelling unload"));
             return false;
@@ -38,11 +38,11 @@ bool frmMain::Form_Unload() {
 void frmMain::mnuFExit_Click() {
     ws_.gSaveDone = 0;
     if (ws_.gDirty == 1) {
-        const MsgAnswer answer = ctx_.dialogs.messageBox(
-            modWrapMessage(QStringLiteral("The desko schedule has changed since you last saved the "
-                                          "configuration.  Do you want to save the changes?"),
-                           ctx_.dialogs),
-            MsgIcon::Question, MsgButtons::YesNo);
+        const MsgAnswer answer =
+            modMsgBox(ctx_.dialogs,
+                      QStringLiteral("The desko schedule has changed since you last saved the "
+                                     "configuration.  Do you want to save the changes?"),
+                      MsgIcon::Question, MsgButtons::YesNo);
         // A Yes whose save did not complete keeps the program open.
         if (answer == MsgAnswer::Yes) {
             mnuFSaveAs_Click();

@@ -77,3 +77,8 @@ QString modWrapMessage(const QString& text, const Dialogs& dialogs) {
     output.chop(kLineBreak.size());
     return output;
 }
+
+MsgAnswer modMsgBox(Dialogs& dialogs, const QString& text, MsgIcon icon, MsgButtons buttons,
+                    int defaultButton) {
+    return dialogs.messageBox(modWrapMessage(text, dialogs), icon, buttons, defaultButton);
+}

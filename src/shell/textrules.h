@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "shell/dialogs.h"
 
-class Dialogs;
+#include <QString>
 
 // Tidies the capitals of a path or a machine name for the log and the window caption.
 QString modProperCase(const QString& text);
@@ -13,3 +13,7 @@ QString modBaseName(const QString& path);
 // Breaks a message box text at blanks so that no line is wider than 350 pixels of the
 // dialogs' text font. A text without a blank past a line's start is not broken.
 QString modWrapMessage(const QString& text, const Dialogs& dialogs);
+
+// Shows a message box whose text is broken as above, and gives the answer.
+MsgAnswer modMsgBox(Dialogs& dialogs, const QString& text, MsgIcon icon, MsgButtons buttons,
+                    int defaultButton = 1);
