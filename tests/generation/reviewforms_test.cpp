@@ -34,7 +34,7 @@ QString indexed(const char* name, int index) {
 // The main window and the review over three agents, whose keys are their last names, in
 // January 2027. Sundays have one shift of one agent, Mondays one of three, Tuesdays two of
 // one, Wednesdays one of four and one of five, Thursdays six of one; Fridays and Saturdays
-// none.
+// none. The agents take the positions in turn.
 class ReviewForms : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -55,6 +55,7 @@ protected:
         }
         ws.gShiftText[2][1] = QStringLiteral("8:00 - 12:00");
         ws.gShiftText[2][2] = QStringLiteral("12:00 - 17:00");
+        fillSchedule();
     }
 
     void TearDown() override {
@@ -126,7 +127,6 @@ TEST_F(ReviewForms, CellsShowShiftsTwoToALineAndNotesOnTheSixth) {
         ws.gNoted[day] = 1;
         ws.gNotedText[day] = QStringLiteral("Note");
     }
-    fillSchedule();
     ws.schedule(3, 1, 0) = QStringLiteral("Leave empty");
     open(0);
     const struct {
@@ -166,6 +166,10 @@ TEST_F(ReviewForms, CellsShowShiftsTwoToALineAndNotesOnTheSixth) {
     EXPECT_TRUE(review->isVisible());
 }
 
+// The review takes the main window's place with what the engine offers. Shuffled's
+// Reschedule deals the month again. A serial engine's list opens on the agent after the
+// cursor, and item n starts the engine again from agent n + 1, over any change by hand; the
+// load and the item last rebuilt for, which the generate command sets to 0, rebuild nothing.
 TEST_F(ReviewForms, TheReviewTakesTheMainWindowsPlaceWithWhatTheEngineOffers) {
     const struct {
         int engine;
@@ -182,13 +186,14 @@ TEST_F(ReviewForms, TheReviewTakesTheMainWindowsPlaceWithWhatTheEngineOffers) {
     for (const auto& row : cases) {
         SCOPED_TRACE(row.engine);
         TearDown();
-        fillSchedule();
+        ws.schedule(4, 1, 0) = QStringLiteral("Leave empty");
         const std::vector<QString> before = ws.gSchedule;
         ws.gBaseAgent = row.baseAgent;
         ws.gScheduleGenerated = 0;
+        ws.gCalendarAgentIndex = 0;
+        ws.gDirty = 0;
         open(row.engine);
 
-        EXPECT_FALSE(main->isVisible());
         // Where the main window was, unless that would put part of the review off the screen.
         const QRect screen = main->screen()->availableGeometry();
         EXPECT_TRUE(screen.contains(review->pos()));
@@ -214,57 +219,38 @@ TEST_F(ReviewForms, TheReviewTakesTheMainWindowsPlaceWithWhatTheEngineOffers) {
         const int offset = ok->mapTo(review, ok->rect().center()).x() -
                            wednesday->mapTo(review, wednesday->rect().center()).x();
         EXPECT_EQ(std::abs(offset) <= 1, row.okCentred) << offset;
-    }
-}
-
-// Item n of the list starts the serial engine from agent n + 1, over any change by hand;
-// the item last rebuilt for, which the generate command sets to 0, rebuilds nothing.
-TEST_F(ReviewForms, PickingAnotherAgentRebuildsFromThatAgent) {
-    for (const int engine : {2, 3}) {
-        SCOPED_TRACE(engine);
-        TearDown();
-        fillSchedule();
-        ws.schedule(4, 1, 0) = QStringLiteral("Leave empty");
-        ws.gBaseAgent = 1;
-        ws.gCalendarAgentIndex = 0;
-        ws.gDirty = 0;
-        open(engine);
-        auto* agents = find<QComboBox>(review, QStringLiteral("cmbAgents"));
-        agents->setCurrentIndex(0);
-        EXPECT_EQ(ws.schedule(4, 1, 0), QStringLiteral("Leave empty"));
+        if (row.engine == 0) {
+            continue;
+        }
 
         Workspace expected = ws;
         expected.gLogFile = home.filePath(QStringLiteral("expected.log"));
-        int cursor = 2;
-        (engine == 2 ? modGenerateSerialHorizontal : modGenerateSerialMixed)(expected, s.ctx,
-                                                                             cursor);
-        agents->setCurrentIndex(2);
+        if (row.reschedule) {
+            TestServices same;
+            same.ctx.random.setState(s.ctx.random.state());
+            int draws = 0;
+            modGenerateShuffled(expected, same.ctx, draws);
+            press(review, "cmdReschedule");
+        } else {
+            agents->setCurrentIndex(0);
+            EXPECT_EQ(ws.schedule(4, 1, 0), QStringLiteral("Leave empty"));
+            int cursor = 2;
+            (row.engine == 2 ? modGenerateSerialHorizontal : modGenerateSerialMixed)(expected,
+                                                                                     s.ctx, cursor);
+            agents->setCurrentIndex(2);
+            EXPECT_EQ(ws.schedule(3, 1, 0), QStringLiteral("Delgado"));  // the first position
+            EXPECT_EQ(ws.gCalendarAgentIndex, 2);
+            EXPECT_EQ(ws.gDirty, 0);
+        }
         EXPECT_EQ(ws.gSchedule, expected.gSchedule);
-        EXPECT_EQ(cell(3)->text(), QStringLiteral("Delgado\n"));  // the month's first position
-        EXPECT_EQ(ws.gCalendarAgentIndex, 2);
-        EXPECT_EQ(ws.gDirty, 0);
+        EXPECT_EQ(cell(3)->text(), ws.schedule(3, 1, 0) + QLatin1Char('\n'));
     }
 }
 
-TEST_F(ReviewForms, RescheduleDealsTheMonthAgain) {
-    std::fill(ws.gSchedule.begin(), ws.gSchedule.end(), QStringLiteral("Nobody"));
-    open(1);
-    Workspace expected = ws;
-    expected.gLogFile = home.filePath(QStringLiteral("expected.log"));
-    TestServices same;
-    same.ctx.random.setState(s.ctx.random.state());
-    int draws = 0;
-    modGenerateShuffled(expected, same.ctx, draws);
-
-    press(review, "cmdReschedule");
-    EXPECT_EQ(ws.gSchedule, expected.gSchedule);
-    EXPECT_EQ(cell(3)->text(), ws.schedule(3, 1, 0) + QLatin1Char('\n'));
-}
-
 // Days opened one after another: each shows a frame per shift and a list per slot, up to
-// four, on the cell's key, and nothing of the day before.
-TEST_F(ReviewForms, TheEditorShowsTheDaysShiftsAndSlots) {
-    fillSchedule();
+// four, on the cell's key, and nothing of the day before. The user has the last word: OK
+// stores what the lists show and checks nothing; the close box stores nothing.
+TEST_F(ReviewForms, TheDayEditorShowsTheDayAndOKStoresItAsTheListsShowIt) {
     open(0);
     const struct {
         int day;
@@ -294,21 +280,12 @@ TEST_F(ReviewForms, TheEditorShowsTheDaysShiftsAndSlots) {
     EXPECT_EQ(list(1, 0)->count(), 4);
     EXPECT_EQ(list(1, 0)->itemText(3), QStringLiteral("Leave empty"));
     EXPECT_TRUE(logged(QStringLiteral("Viewing scheduled agents for January 7")));
-}
 
-// The user has the last word: OK stores what the lists show and checks nothing; the close
-// box stores nothing.
-TEST_F(ReviewForms, OKStoresTheDayAsTheListsShowIt) {
-    fillSchedule();
-    ws.schedule(5, 1, 0) = QStringLiteral("Zimmer");  // an agent deleted since
-    ws.schedule(5, 3, 0) = QStringLiteral("Stale");   // a shift Tuesdays no longer have
+    // A key no list offers, of an agent deleted since, opens unselected, and OK empties its
+    // cell as it does that of a shift Tuesdays no longer have; "Leave empty" is kept.
+    ws.schedule(5, 1, 0) = QStringLiteral("Zimmer");
+    ws.schedule(5, 3, 0) = QStringLiteral("Stale");
     ws.gDirty = 0;
-    open(0);
-    // A day of six shifts first: what its lists showed must not carry over.
-    clickDay(7);
-    list(3, 0)->setCurrentIndex(0);
-    press(editor(), "cmdOK");
-
     clickDay(5);
     EXPECT_EQ(find<QGroupBox>(editor(), QStringLiteral("fraShift(1)"))->title(),
               QStringLiteral("Second shift: 12:00 - 17:00"));
@@ -322,11 +299,11 @@ TEST_F(ReviewForms, OKStoresTheDayAsTheListsShowIt) {
     EXPECT_TRUE(logged(QStringLiteral("Saving scheduled agents for January 5")));
     EXPECT_TRUE(review->isVisible());
     EXPECT_EQ(cell(5)->text(), QStringLiteral("\nLeave empty\n"));
-
     clickDay(5);
     EXPECT_EQ(list(2, 0)->currentText(), QStringLiteral("Leave empty"));
     press(editor(), "cmdOK");
 
+    // One agent in every slot of a shift is taken without a word.
     clickDay(4);
     for (int k = 0; k < 3; ++k) {
         list(1, k)->setCurrentIndex(1);

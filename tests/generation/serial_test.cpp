@@ -3,21 +3,22 @@
 #include "handmadeoffice.h"
 #include "persistence/log.h"
 #include "randomoffice.h"
-#include "shell/session.h"
 #include "workspace/workspace.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace {
 
 using Engine = void (*)(Workspace&, Context&, int&);
+const Engine horizontal = modGenerateSerialHorizontal;
+const Engine mixed = modGenerateSerialMixed;
 
 // The rota written out plainly as its rules read, with nothing taken from the
 // engines, so that they can be held to it on many offices.
@@ -25,7 +26,9 @@ struct PlainRota {
     Workspace& ws;
     Context& ctx;
     int& c;
-    int tries = 0;
+
+    int days() const { return ws.gMonthDays[ws.gCurrentMonth]; }
+    int weekday(int d) const { return (d + 6 + ws.gFirstWeekday) % 7; }
 
     void start(const QString& line) {
         int base = c + 1;
@@ -40,7 +43,7 @@ struct PlainRota {
     }
 
     void place(int d, int s, int k) {
-        const int w = (d + 6 + ws.gFirstWeekday) % 7;
+        int tries = 0;
     move:
         c = c + 1;
         tries = tries + 1;
@@ -50,25 +53,29 @@ struct PlainRota {
         if (tries > 150) {
             goto write;
         }
-        if (ws.gVacation[c][d] == 1 || ws.gRestriction[c][w][s] == 1) {
+        if (ws.gVacation[c][d] == 1 || ws.gRestriction[c][weekday(d)][s] == 1) {
             goto move;
         }
     write:
         ws.schedule(d, s, k) = ws.gAgentKey[c];
-        tries = 0;
+    }
+
+    // The day's shifts upward, or downward, and the slots of each shift upward.
+    void day(int d, bool downward) {
+        const int w = weekday(d);
+        for (int i = 1; i <= ws.gShiftCount[w]; ++i) {
+            const int s = downward ? ws.gShiftCount[w] + 1 - i : i;
+            for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                place(d, s, k);
+            }
+        }
     }
 
     void horizontal() {
         start(QStringLiteral("Generating a schedule using the Serial Horizontal engine"));
-        for (int d = 1; d <= ws.gMonthDays[ws.gCurrentMonth]; ++d) {
-            if (ws.gHoliday[d] == 1) {
-                continue;
-            }
-            const int w = (d + 6 + ws.gFirstWeekday) % 7;
-            for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
-                for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                    place(d, s, k);
-                }
+        for (int d = 1; d <= days(); ++d) {
+            if (ws.gHoliday[d] != 1) {
+                day(d, false);
             }
         }
     }
@@ -81,51 +88,24 @@ struct PlainRota {
                 f = f + 7;
             }
             int l = f + 28;
-            if (l > ws.gMonthDays[ws.gCurrentMonth]) {
+            if (l > days()) {
                 l = l - 7;
             }
-            if (w == 0) {
-                for (int d = f; d <= l; d += 7) {
-                    if (ws.gHoliday[d] == 1) {
-                        continue;
-                    }
-                    for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
-                        for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                            place(d, s, k);
-                        }
-                    }
-                }
-            } else {
-                for (int d = l; d >= f; d -= 7) {
-                    if (ws.gHoliday[d] == 1) {
-                        continue;
-                    }
-                    for (int s = ws.gShiftCount[w]; s >= 1; --s) {
-                        for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                            place(d, s, k);
-                        }
-                    }
+            // Sundays from f up to l, Saturdays from l down to f.
+            for (int i = 0; f + 7 * i <= l; ++i) {
+                const int d = w == 0 ? f + 7 * i : l - 7 * i;
+                if (ws.gHoliday[d] != 1) {
+                    day(d, w == 6);
                 }
             }
         }
-        for (int d = 1; d <= ws.gMonthDays[ws.gCurrentMonth]; ++d) {
-            const int w = (d + 6 + ws.gFirstWeekday) % 7;
-            if (w == 0 || w == 6 || ws.gHoliday[d] == 1) {
-                continue;
-            }
-            for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
-                for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                    place(d, s, k);
-                }
+        for (int d = 1; d <= days(); ++d) {
+            if (weekday(d) != 0 && weekday(d) != 6 && ws.gHoliday[d] != 1) {
+                day(d, false);
             }
         }
     }
 };
-
-// Text in every cell, for the engines to write over or leave alone.
-void fillWithOldSchedule(Workspace& ws) {
-    std::fill(ws.gSchedule.begin(), ws.gSchedule.end(), QStringLiteral("old"));
-}
 
 }  // namespace
 
@@ -137,10 +117,9 @@ TEST(SerialEngines, FollowThePlainRotaOnRandomOffices) {
         SCOPED_TRACE(seed);
         Workspace office;
         makeRandomOffice(office, seed);
-        fillWithOldSchedule(office);
+        handmade::fillWithOldSchedule(office);
         handmade::loseLogLines(office, home);
-        for (const bool mixed : {false, true}) {
-            const Engine engine = mixed ? modGenerateSerialMixed : modGenerateSerialHorizontal;
+        for (const Engine engine : {horizontal, mixed}) {
             for (int cursor = 0; cursor <= office.gAgentCount; ++cursor) {
                 Workspace shipped = office;
                 Workspace plain = office;
@@ -150,9 +129,9 @@ TEST(SerialEngines, FollowThePlainRotaOnRandomOffices) {
                 engine(shipped, s.ctx, shippedCursor);
                 ASSERT_EQ(s.ctx.random.state(), seed) << "a rota draws nothing";
                 PlainRota rota{plain, s.ctx, plainCursor};
-                mixed ? rota.mixed() : rota.horizontal();
+                engine == mixed ? rota.mixed() : rota.horizontal();
                 ASSERT_EQ(shipped.gSchedule, plain.gSchedule)
-                    << "mixed " << mixed << " cursor " << cursor;
+                    << "mixed " << (engine == mixed) << " cursor " << cursor;
                 ASSERT_EQ(shippedCursor, plainCursor);
                 ASSERT_EQ(shipped.gBaseAgent, cursor);
                 ++runs;
@@ -174,8 +153,6 @@ TEST(SerialEngines, VisitTheDaysInTheirOrder) {
         // The weekend days the engine serves first, in order; the other days follow upward.
         std::vector<int> weekendsFirst;
     };
-    const Engine horizontal = modGenerateSerialHorizontal;
-    const Engine mixed = modGenerateSerialMixed;
     const Case cases[] = {
         {"horizontal goes day by day", horizontal, 2023, 1, {}, {}},
         {"horizontal leaves holidays out", horizontal, 2023, 1, {7, 10}, {}},
@@ -196,7 +173,7 @@ TEST(SerialEngines, VisitTheDaysInTheirOrder) {
         Workspace ws;
         handmade::makeOffice(ws, c.year, c.month, kAgents);
         handmade::loseLogLines(ws, home);
-        fillWithOldSchedule(ws);
+        handmade::fillWithOldSchedule(ws);
         std::vector<int> order = c.weekendsFirst;
         for (int d = 1; d <= ws.currentMonthDays(); ++d) {
             if (std::count(order.begin(), order.end(), d) == 0 &&
@@ -216,22 +193,21 @@ TEST(SerialEngines, VisitTheDaysInTheirOrder) {
                 << "day " << order[i];
         }
         EXPECT_EQ(cursor, (kCursor + static_cast<int>(order.size()) - 1) % kAgents + 1);
-        for (const int d : c.holidays) {
-            EXPECT_EQ(ws.schedule(d, 1, 0), QStringLiteral("old")) << "holiday " << d;
-        }
-        EXPECT_EQ(ws.schedule(0, 1, 0), QStringLiteral("old"));
     }
 }
 
-// One position a day in a month starting on Sunday, the 1st of January 2023: who takes
-// the first days, for a start cursor and the agents barred from some of them.
+// One position a day in January 2023, which starts on a Sunday: who takes the first days,
+// for a start cursor and the agents barred from some of them; and the log's two lines, which
+// name the engine and the agent after the cursor.
 TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
     struct Case {
         const char* what;
+        Engine engine;
         int agents;
         int cursor;
-        std::function<void(Workspace&)> bar;
-        std::vector<int> firstDays;
+        std::function<void(Workspace&)> setUp;
+        std::vector<int> firstDays;  // 0: the cell kept what it held
+        int base;                    // the agent the log names
     };
     const auto away = [](int from, int to, int day) {
         return [=](Workspace& ws) {
@@ -240,37 +216,42 @@ TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
             }
         };
     };
+    const auto restricted = [](Workspace& ws) { ws.gRestriction[3][0][1] = 1; };
+    const auto noPositions = [](Workspace& ws) { handmade::setTable(ws, 0, 1); };
     const Case cases[] = {
-        {"the base agent away on the first day", 5, 0, away(1, 1, 1), {2, 3, 4, 5, 1}},
-        {"a restriction passes the agent over",
-         5,
-         2,
-         [](Workspace& ws) { ws.gRestriction[3][0][1] = 1; },  // Sundays, shift 1
-         {4, 5, 1, 2, 3}},
-        {"the cursor at the end of the list starts at agent 1", 5, 5, {}, {1, 2, 3}},
+        {"base agent away on the 1st", horizontal, 5, 0, away(1, 1, 1), {2, 3, 4, 5, 1}, 1},
+        {"agent 3 restricted on Sundays", horizontal, 5, 2, restricted, {4, 5, 1, 2, 3}, 3},
+        {"the cursor at the end of the list", horizontal, 5, 5, {}, {1, 2, 3}, 1},
         // The cursor goes round the list of seven 21 times and more: 151 places from agent
         // 2, it stops on agent 6, who is away too.
-        {"everybody away: 151 tries", 7, 0, away(1, 7, 3), {1, 2, 6, 7, 1}},
+        {"everybody away: 151 tries", horizontal, 7, 0, away(1, 7, 3), {1, 2, 6, 7, 1}, 1},
         // 151 agents away: the limit gives day 1 to agent 151 while agent 152 is free.
-        {"the limit comes before a free agent", 200, 0, away(1, 151, 1), {151, 152, 153}},
+        {"the limit before a free agent", horizontal, 200, 0, away(1, 151, 1), {151, 152}, 1},
+        {"no positions: only the log", mixed, 5, 2, noPositions, {0, 0}, 3},
     };
-    QTemporaryDir home;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
+        QTemporaryDir home;
         TestServices s;
         Workspace ws;
-        handmade::makeOffice(ws, 2023, 1, c.agents);
-        handmade::loseLogLines(ws, home);
-        if (c.bar) {
-            c.bar(ws);
+        handmade::makeOffice(ws, 2023, 1, c.agents, home.path());
+        handmade::fillWithOldSchedule(ws);
+        if (c.setUp) {
+            c.setUp(ws);
         }
         int cursor = c.cursor;
-        modGenerateSerialHorizontal(ws, s.ctx, cursor);
+        c.engine(ws, s.ctx, cursor);
         std::vector<int> got;
         for (int d = 1; d <= static_cast<int>(c.firstDays.size()); ++d) {
             got.push_back(handmade::agentIn(ws, d, 1, 0));
         }
         EXPECT_EQ(got, c.firstDays);
+        EXPECT_EQ(handmade::logText(ws),
+                  std::string("[09:14:03]     Generating a schedule using the Serial ") +
+                      (c.engine == mixed ? "Mixed" : "Horizontal") +
+                      " engine\r\n[09:14:03]     Base agent is " +
+                      (ws.gAgentFirst[c.base] + u' ' + ws.gAgentLast[c.base]).toStdString() +
+                      "\r\n");
     }
 }
 
@@ -282,9 +263,7 @@ TEST(SerialEngines, MixedWalksSaturdayShiftsDownwardAndTheirSlotsUpward) {
     Workspace ws;
     handmade::makeOffice(ws, 2023, 1, 40);
     handmade::loseLogLines(ws, home);
-    for (int w = 0; w < kWeekdays; ++w) {
-        ws.gShiftCount[w] = 0;
-    }
+    handmade::setTable(ws, 0, 1);
     ws.gShiftCount[0] = 2;
     ws.gShiftAgents[0] = {0, 0, 1};
     ws.gShiftCount[6] = 3;
@@ -292,64 +271,14 @@ TEST(SerialEngines, MixedWalksSaturdayShiftsDownwardAndTheirSlotsUpward) {
     int cursor = 0;
     modGenerateSerialMixed(ws, s.ctx, cursor);
 
-    struct Cell {
-        int day, shift, slot;
-    };
     // Five Sundays of three positions take agents 1 to 15; then the last Saturday.
-    const Cell firstSaturday[] = {{28, 3, 0}, {28, 3, 1}, {28, 3, 2},
-                                  {28, 2, 0}, {28, 1, 0}, {28, 1, 1}};
-    EXPECT_EQ(handmade::agentIn(ws, 1, 1, 0), 1);
-    EXPECT_EQ(handmade::agentIn(ws, 1, 2, 0), 2);
-    EXPECT_EQ(handmade::agentIn(ws, 1, 2, 1), 3);
-    int agent = 16;
-    for (const Cell& cell : firstSaturday) {
-        EXPECT_EQ(handmade::agentIn(ws, cell.day, cell.shift, cell.slot), agent++)
-            << cell.day << "/" << cell.shift << "/" << cell.slot;
+    const int cells[][3] = {{1, 1, 0},  {1, 2, 0},  {1, 2, 1},  {28, 3, 0}, {28, 3, 1},
+                            {28, 3, 2}, {28, 2, 0}, {28, 1, 0}, {28, 1, 1}, {21, 3, 0}};
+    const int agents[] = {1, 2, 3, 16, 17, 18, 19, 20, 21, 22};
+    for (int i = 0; i < 10; ++i) {
+        const auto [day, shift, slot] = cells[i];
+        EXPECT_EQ(handmade::agentIn(ws, day, shift, slot), agents[i])
+            << day << "/" << shift << "/" << slot;
     }
-    EXPECT_EQ(handmade::agentIn(ws, 21, 3, 0), 22);
     EXPECT_EQ(cursor, 39);  // 15 Sunday and 24 Saturday positions
-}
-
-// The log names the engine and the agent after the cursor; a month without positions gets
-// nothing else.
-TEST(SerialEngines, LogTheEngineAndTheBaseAgent) {
-    struct Case {
-        const char* what;
-        Engine engine;
-        int cursor;
-        bool positions;
-        const char* log;
-    };
-    const Case cases[] = {
-        {"horizontal, cursor at the end", modGenerateSerialHorizontal, 5, true,
-         "[09:14:03]     Generating a schedule using the Serial Horizontal engine\r\n"
-         "[09:14:03]     Base agent is Ann1 Agent001\r\n"},
-        {"mixed, no positions", modGenerateSerialMixed, 2, false,
-         "[09:14:03]     Generating a schedule using the Serial Mixed engine\r\n"
-         "[09:14:03]     Base agent is Ann3 Agent003\r\n"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        QTemporaryDir home;
-        TestServices s;
-        Workspace ws;
-        modInitSession(ws, home.path());
-        handmade::makeOffice(ws, 2023, 1, 5);
-        if (!c.positions) {
-            handmade::setTable(ws, 0, 1);
-        }
-        fillWithOldSchedule(ws);
-        const std::vector<QString> before = ws.gSchedule;
-        int cursor = c.cursor;
-        c.engine(ws, s.ctx, cursor);
-
-        QFile log(ws.gLogFile);
-        ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-        EXPECT_EQ(log.readAll().toStdString(), c.log);
-        EXPECT_EQ(ws.gBaseAgent, c.cursor);
-        if (!c.positions) {
-            EXPECT_EQ(cursor, c.cursor);
-            EXPECT_EQ(ws.gSchedule, before);
-        }
-    }
 }

@@ -167,11 +167,10 @@ TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead) {
     TestServices services;
     modLoadWorkspace(ws, services.ctx, path("other.dko"));
     const ScriptedDialogs::Shown& box = services.dialogs.shown.at(0);
-    EXPECT_EQ(box.text,
-              QStringLiteral("The file you are attempting to open cannot be read\r\n"
-                             "by this version of the program.  Please open this \r\n"
-                             "DKO file using the version of Desko for Windows \r\n"
-                             "with which it was created."));
+    EXPECT_EQ(box.text, QStringLiteral("The file you are attempting to open cannot be read\r\n"
+                                       "by this version of the program.  Please open this \r\n"
+                                       "DKO file using the version of Desko for Windows \r\n"
+                                       "with which it was created."));
     EXPECT_EQ(box.icon, MsgIcon::Stop);
     EXPECT_EQ(box.buttons, MsgButtons::OK);
     // The working file's own version is never looked at.

@@ -7,14 +7,12 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -22,36 +20,28 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <algorithm>
+#include <array>
 #include <memory>
 
 namespace {
-
-struct Name {
-    const char* last;
-    const char* first;
-};
-
-const Name kOffice[] = {{"Brennan", "Patrick"}, {"Chen", "Wei"}, {"Delgado", "Sofia"}};
 
 // The main window over a workspace of its own, in a program directory of its own.
 class MainWindow : public ::testing::Test {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(home.isValid());
-        modInitSession(ws, home.path());
-        modInitNameTables(ws);
-        ws.gCurrentMonth = 1;
-        ws.gCurrentYear = 2027;
+        ws = Workspace();
+        openMonth(ws, 2027, 1, home.path());
     }
 
-    // The first count agents of the office, in list order.
+    // The first count agents of a small office, in list order.
     void withAgents(int count) {
+        const char* names[][2] = {{"Brennan", "Patrick"}, {"Chen", "Wei"}, {"Delgado", "Sofia"}};
         ws.gAgentCount = count;
         ws.redimAgents(count);
         for (int i = 1; i <= count; ++i) {
-            ws.gAgentLast[i] = QString::fromUtf8(kOffice[i - 1].last);
-            ws.gAgentFirst[i] = QString::fromUtf8(kOffice[i - 1].first);
+            ws.gAgentLast[i] = QString::fromUtf8(names[i - 1][0]);
+            ws.gAgentFirst[i] = QString::fromUtf8(names[i - 1][1]);
         }
     }
 
@@ -59,13 +49,6 @@ protected:
         window = std::make_unique<frmMain>(ws, s.ctx, programFile);
         window->show();
         return *window;
-    }
-
-    template <typename T>
-    T* control(const char* name) const {
-        T* found = window->findChild<T*>(QString::fromUtf8(name));
-        EXPECT_NE(found, nullptr) << name;
-        return found;
     }
 
     QTemporaryDir home;
@@ -76,32 +59,25 @@ protected:
 
 // An item can be chosen when it and every menu above it are enabled.
 bool reachable(const QAction* action) {
-    if (!action->isEnabled()) {
-        return false;
-    }
-    for (const QObject* holder : action->associatedObjects()) {
-        if (const auto* menu = qobject_cast<const QMenu*>(holder)) {
-            if (!reachable(menu->menuAction())) {
-                return false;
-            }
-        }
-    }
-    return true;
+    const QObjectList holders = action->associatedObjects();
+    return action->isEnabled() && std::all_of(holders.begin(), holders.end(), [](const QObject* o) {
+               const auto* menu = qobject_cast<const QMenu*>(o);
+               return menu == nullptr || reachable(menu->menuAction());
+           });
 }
 
 // Whether the user can work the named control or menu.
-bool live(const frmMain& window, const char* name) {
-    const QString objectName = QString::fromUtf8(name);
-    if (const auto* menu = window.findChild<QMenu*>(objectName)) {
+bool live(const frmMain& window, const QString& name) {
+    if (const auto* menu = window.findChild<QMenu*>(name)) {
         return reachable(menu->menuAction());
     }
-    if (const auto* widget = window.findChild<QWidget*>(objectName)) {
+    if (const auto* widget = window.findChild<QWidget*>(name)) {
         return widget->isEnabled();
     }
-    if (const auto* action = window.findChild<QAction*>(objectName)) {
+    if (const auto* action = window.findChild<QAction*>(name)) {
         return reachable(action);
     }
-    ADD_FAILURE() << "no control " << name;
+    ADD_FAILURE() << "no control " << name.toStdString();
     return false;
 }
 
@@ -109,16 +85,6 @@ void press(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button
     QMouseEvent event(type, QPointF(at), QPointF(widget->mapToGlobal(at)), button,
                       type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
-}
-
-void clickItem(QListWidget* list, int row, bool twice = false) {
-    const QPoint at = list->visualItemRect(list->item(row)).center();
-    press(list->viewport(), QEvent::MouseButtonPress, at);
-    press(list->viewport(), QEvent::MouseButtonRelease, at);
-    if (twice) {
-        press(list->viewport(), QEvent::MouseButtonDblClick, at);
-        press(list->viewport(), QEvent::MouseButtonRelease, at);
-    }
 }
 
 bool activate(QWidget* window) {
@@ -132,216 +98,162 @@ bool activate(QWidget* window) {
 // Which controls and menus are live in the normal face, for each state of the workspace, and
 // in the busy face, where only the status and the agent editor stay as they were.
 TEST_F(MainWindow, EachFaceEnablesWhatTheWorkspaceAllows) {
-    struct Row {
-        const char* name;
-        bool live[4];  // no agents, agents, generated schedule, busy
+    // Live with no agents, with agents, with a generated schedule, busy.
+    const std::pair<std::array<bool, 4>, const char*> groups[] = {
+        {{1, 1, 1, 0},
+         "fraAgents lstAgents cmdAdd fraDate labDate vscDate fraViewEdit cmbViewEdit "
+         "cmdViewEdit fraGenerate mnuFile mnuFNew mnuFOpen mnuFSaveAs mnuFExit mnuEdit "
+         "mnuEShifts mnuEFonts mnuGenerate mnuGSmartRandom mnuGShuffled mnuGMixed "
+         "mnuGHorizontal mnuHelp mnuHHelp mnuHDump mnuHAbout"},
+        {{0, 1, 1, 0},
+         "cmdChange cmdDelete cmdVacations cmdRestrictions cmdHolidays cmdNotes cmbGenerate "
+         "cmdGenerate"},
+        {{0, 0, 1, 0},
+         "fraPrint chkPrint(0) chkPrint(1) chkPrint(2) cmdPrint fraExport chkPrint(3) "
+         "chkPrint(4) chkPrint(5) cmdExport mnuFPrint mnuFPCalendar mnuFPGrid mnuFPTearsheet "
+         "mnuFExport mnuFEEmail mnuFEOutlook mnuFECreator mnuESchedule"},
+        {{0, 0, 0, 0}, "mnuEConstraints"},
+        {{1, 1, 1, 1},
+         "fraStatus labStatus txtFirstName txtLastName txtEmail cmdResolveName cmdOK cmdCancel"},
     };
-    const Row rows[] = {
-        {"fraAgents", {1, 1, 1, 0}},       {"lstAgents", {1, 1, 1, 0}},
-        {"cmdAdd", {1, 1, 1, 0}},          {"cmdChange", {0, 1, 1, 0}},
-        {"cmdDelete", {0, 1, 1, 0}},       {"cmdVacations", {0, 1, 1, 0}},
-        {"cmdRestrictions", {0, 1, 1, 0}}, {"cmdHolidays", {0, 1, 1, 0}},
-        {"cmdNotes", {0, 1, 1, 0}},        {"fraDate", {1, 1, 1, 0}},
-        {"labDate", {1, 1, 1, 0}},         {"vscDate", {1, 1, 1, 0}},
-        {"fraViewEdit", {1, 1, 1, 0}},     {"cmbViewEdit", {1, 1, 1, 0}},
-        {"cmdViewEdit", {1, 1, 1, 0}},     {"fraGenerate", {1, 1, 1, 0}},
-        {"cmbGenerate", {0, 1, 1, 0}},     {"cmdGenerate", {0, 1, 1, 0}},
-        {"fraPrint", {0, 0, 1, 0}},        {"chkPrint(0)", {0, 0, 1, 0}},
-        {"chkPrint(1)", {0, 0, 1, 0}},     {"chkPrint(2)", {0, 0, 1, 0}},
-        {"cmdPrint", {0, 0, 1, 0}},        {"fraExport", {0, 0, 1, 0}},
-        {"chkPrint(3)", {0, 0, 1, 0}},     {"chkPrint(4)", {0, 0, 1, 0}},
-        {"chkPrint(5)", {0, 0, 1, 0}},     {"cmdExport", {0, 0, 1, 0}},
-        {"fraStatus", {1, 1, 1, 1}},       {"labStatus", {1, 1, 1, 1}},
-        {"txtFirstName", {1, 1, 1, 1}},    {"txtLastName", {1, 1, 1, 1}},
-        {"txtEmail", {1, 1, 1, 1}},        {"cmdResolveName", {1, 1, 1, 1}},
-        {"cmdOK", {1, 1, 1, 1}},           {"cmdCancel", {1, 1, 1, 1}},
-        {"mnuFile", {1, 1, 1, 0}},         {"mnuFNew", {1, 1, 1, 0}},
-        {"mnuFOpen", {1, 1, 1, 0}},        {"mnuFSaveAs", {1, 1, 1, 0}},
-        {"mnuFPrint", {0, 0, 1, 0}},       {"mnuFPCalendar", {0, 0, 1, 0}},
-        {"mnuFPGrid", {0, 0, 1, 0}},       {"mnuFPTearsheet", {0, 0, 1, 0}},
-        {"mnuFExport", {0, 0, 1, 0}},      {"mnuFEEmail", {0, 0, 1, 0}},
-        {"mnuFEOutlook", {0, 0, 1, 0}},    {"mnuFECreator", {0, 0, 1, 0}},
-        {"mnuFExit", {1, 1, 1, 0}},        {"mnuEdit", {1, 1, 1, 0}},
-        {"mnuESchedule", {0, 0, 1, 0}},    {"mnuEShifts", {1, 1, 1, 0}},
-        {"mnuEConstraints", {0, 0, 0, 0}}, {"mnuEFonts", {1, 1, 1, 0}},
-        {"mnuGenerate", {1, 1, 1, 0}},     {"mnuGSmartRandom", {1, 1, 1, 0}},
-        {"mnuGShuffled", {1, 1, 1, 0}},    {"mnuGMixed", {1, 1, 1, 0}},
-        {"mnuGHorizontal", {1, 1, 1, 0}},  {"mnuHelp", {1, 1, 1, 0}},
-        {"mnuHHelp", {1, 1, 1, 0}},        {"mnuHDump", {1, 1, 1, 0}},
-        {"mnuHAbout", {1, 1, 1, 0}},
-    };
+    // A face left busy again after the workspace changed to agentsAfter agents, from 0 up, and
+    // generatedAfter: explicit disabling must not outlive the enabling of the frames.
     struct Face {
         const char* name;
-        int column;
-        std::function<void()> reach;
+        int column, agents, generated, agentsAfter, generatedAfter;
     };
     const Face faces[] = {
-        {"no agents", 0, [this] { open(); }},
-        {"agents", 1,
-         [this] {
-             withAgents(3);
-             open();
-         }},
-        {"generated schedule", 2,
-         [this] {
-             withAgents(3);
-             ws.gScheduleGenerated = 1;
-             open();
-         }},
-        {"busy", 3,
-         [this] {
-             withAgents(3);
-             ws.gScheduleGenerated = 1;
-             open().modEnterBusyState();
-         }},
-        // Back from the busy face after the last agent went: explicit disabling must not
-        // outlive the enabling of the frames.
-        {"busy, then back without agents", 0,
-         [this] {
-             withAgents(3);
-             ws.gScheduleGenerated = 1;
-             open().modEnterBusyState();
-             withAgents(0);
-             ws.gScheduleGenerated = 0;
-             window->modLeaveBusyState();
-         }},
-        {"busy, then back with a schedule", 2,
-         [this] {
-             withAgents(3);
-             open().modEnterBusyState();
-             ws.gScheduleGenerated = 1;
-             window->modLeaveBusyState();
-         }},
+        {"no agents", 0, 0, 0, -1, 0},
+        {"agents", 1, 3, 0, -1, 0},
+        {"generated schedule", 2, 3, 1, -1, 0},
+        {"busy", 3, 3, 1, -1, 0},
+        {"busy, then back without agents", 0, 3, 1, 0, 0},
+        {"busy, then back with a schedule", 2, 3, 0, 3, 1},
     };
     for (const Face& face : faces) {
         SCOPED_TRACE(face.name);
-        ws = Workspace();
         SetUp();
-        face.reach();
-        for (const Row& row : rows) {
-            EXPECT_EQ(live(*window, row.name), row.live[face.column]) << row.name;
+        withAgents(face.agents);
+        ws.gScheduleGenerated = face.generated;
+        open();
+        if (face.column == 3 || face.agentsAfter >= 0) {
+            window->modEnterBusyState();
+        }
+        if (face.agentsAfter >= 0) {
+            withAgents(face.agentsAfter);
+            ws.gScheduleGenerated = face.generatedAfter;
+            window->modLeaveBusyState();
+        }
+        for (const auto& [pattern, names] : groups) {
+            for (const QString& name : QString::fromUtf8(names).split(QLatin1Char(' '))) {
+                EXPECT_EQ(live(*window, name), pattern[face.column]) << name.toStdString();
+            }
         }
     }
 }
 
 TEST_F(MainWindow, CaptionShowsTheTagOnlyUnderTheProgramsOwnName) {
-    struct Case {
-        const char* programFile;
-        const char* tag;
-        const char* caption;
-    };
-    const Case cases[] = {
+    const char* const cases[][3] = {
         {"desko40", " [not saved]", "Desko for Windows rev 4.0  [not saved]"},
         {"DESKO40", " [Example Office]", "Desko for Windows rev 4.0  [Example Office]"},
         {"Desko40.exe", " [Example Office]", "Desko for Windows rev 4.0  [Example Office]"},
         {"desko41", " [not saved]", "Desko for Windows rev 4.0 "},
         {"desko40-test", " [Example Office]", "Desko for Windows rev 4.0 "},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.programFile);
-        ws.gScheduleTag = QString::fromUtf8(c.tag);
-        EXPECT_EQ(open(QString::fromUtf8(c.programFile)).windowTitle(),
-                  QString::fromUtf8(c.caption));
+    for (const auto& [programFile, tag, caption] : cases) {
+        ws.gScheduleTag = QString::fromUtf8(tag);
+        EXPECT_EQ(open(QString::fromUtf8(programFile)).windowTitle(), QString::fromUtf8(caption))
+            << programFile;
     }
 }
 
-TEST_F(MainWindow, AgentFrameCountsTheAgentsAndListsTheirNames) {
+// The frame counts the agents and the list names them. Filling and refilling the list keep
+// the agent chosen before; one that is gone gives the first.
+TEST_F(MainWindow, TheAgentListCountsKeepsTheChosenAgentAndTakesClicks) {
     struct Case {
         int agents;
         const char* caption;
-        QStringList items;
-    };
-    const Case cases[] = {
-        {0, "Agent list (no agents)", {}},
-        {1, "Agent list (1 agent)", texts({"Brennan, Patrick"})},
-        {3, "Agent list (3 agents)", texts({"Brennan, Patrick", "Chen, Wei", "Delgado, Sofia"})},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.agents);
-        withAgents(c.agents);
-        open();
-        EXPECT_EQ(control<QGroupBox>("fraAgents")->title(), QString::fromUtf8(c.caption));
-        auto* list = control<QListWidget>("lstAgents");
-        QStringList items;
-        for (int row = 0; row < list->count(); ++row) {
-            items.append(list->item(row)->text());
-        }
-        EXPECT_EQ(items, c.items);
-    }
-
-    // A change of the agent list recounts, writes the working file and rebuilds the keys.
-    withAgents(1);
-    open();
-    withAgents(2);
-    window->modUpdateAgentList();
-    EXPECT_EQ(control<QGroupBox>("fraAgents")->title(), QStringLiteral("Agent list (2 agents)"));
-    EXPECT_TRUE(QFile::exists(ws.gConfigFile));
-    EXPECT_EQ(ws.gAgentKey[2], QStringLiteral("Chen"));
-}
-
-TEST_F(MainWindow, TheListKeepsTheSelectedAgentAndClicksChooseOne) {
-    struct Case {
         std::optional<int> selected;
         int row;
     };
-    // Filling and refilling the list keep the agent chosen before; one that is gone gives the
-    // first.
-    const Case cases[] = {{std::nullopt, 0}, {1, 1}, {2, 2}, {7, 0}, {-1, 0}};
-    withAgents(3);
+    const Case cases[] = {
+        {0, "Agent list (no agents)", std::nullopt, -1},
+        {1, "Agent list (1 agent)", 0, 0},
+        {3, "Agent list (3 agents)", std::nullopt, 0},
+        {3, "Agent list (3 agents)", 1, 1},
+        {3, "Agent list (3 agents)", 2, 2},
+        {3, "Agent list (3 agents)", 7, 0},
+        {3, "Agent list (3 agents)", -1, 0},
+    };
+    const QStringList office = texts({"Brennan, Patrick", "Chen, Wei", "Delgado, Sofia"});
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.selected.value_or(-99));
+        SCOPED_TRACE(&c - cases);
+        withAgents(c.agents);
         ws.gSelectedAgent = c.selected;
         open();
-        EXPECT_EQ(control<QListWidget>("lstAgents")->currentRow(), c.row);
-        EXPECT_EQ(ws.gSelectedAgent, c.row);
+        EXPECT_EQ(window->fraAgents->title(), QString::fromUtf8(c.caption));
+        QStringList items;
+        for (int row = 0; row < window->lstAgents->count(); ++row) {
+            items.append(window->lstAgents->item(row)->text());
+        }
+        EXPECT_EQ(items, office.mid(0, c.agents));
+        EXPECT_EQ(window->lstAgents->currentRow(), c.row);
         window->Form_Activate();
-        EXPECT_EQ(control<QListWidget>("lstAgents")->currentRow(), c.row);
-        EXPECT_EQ(ws.gSelectedAgent, c.row);
+        EXPECT_EQ(window->lstAgents->currentRow(), c.row);
+        if (c.agents > 0) {
+            EXPECT_EQ(ws.gSelectedAgent, c.row);
+        }
     }
 
-    auto* list = control<QListWidget>("lstAgents");
+    // A click chooses an agent; a double click also presses Change.
+    QListWidget* list = window->lstAgents;
     int changes = 0;
-    QObject::connect(control<QPushButton>("cmdChange"), &QPushButton::clicked,
-                     [&changes] { ++changes; });
-    clickItem(list, 2);
+    QObject::connect(window->cmdChange, &QPushButton::clicked, [&changes] { ++changes; });
+    const auto click = [list](int row, bool twice) {
+        const QPoint at = list->visualItemRect(list->item(row)).center();
+        press(list->viewport(), QEvent::MouseButtonPress, at);
+        press(list->viewport(), QEvent::MouseButtonRelease, at);
+        if (twice) {
+            press(list->viewport(), QEvent::MouseButtonDblClick, at);
+            press(list->viewport(), QEvent::MouseButtonRelease, at);
+        }
+    };
+    click(2, false);
     EXPECT_EQ(ws.gSelectedAgent, 2);
     EXPECT_EQ(changes, 0);
-    clickItem(list, 1, true);
+    click(1, true);
     EXPECT_EQ(ws.gSelectedAgent, 1);
     EXPECT_EQ(changes, 1);
 }
 
+// Any one kind of constraint brings in its entry. The user's choice does not survive the
+// return to the normal face.
 TEST_F(MainWindow, ViewEditListOffersWhatTheWorkspaceHolds) {
     struct Case {
-        const char* name;
-        int generated;
-        int vacations, holidays, noted, restrictions;
+        int generated, vacations, holidays, noted, restrictions;
         QStringList items;
     };
-    const QStringList plain = texts({"Daily shifts & times", "Fonts & printer setup"});
     const QStringList constrained =
         texts({"Daily shifts & times", "All constraints", "Fonts & printer setup"});
     const Case cases[] = {
-        {"nothing", 0, 0, 0, 0, 0, plain},
-        {"schedule", 1, 0, 0, 0, 0,
-         texts({"Schedule", "Daily shifts & times", "Fonts & printer setup"})},
-        {"vacations", 0, 1, 0, 0, 0, constrained},
-        {"holidays", 0, 0, 1, 0, 0, constrained},
-        {"noted days", 0, 0, 0, 1, 0, constrained},
-        {"restrictions", 0, 0, 0, 0, 1, constrained},
-        {"schedule and restrictions", 1, 0, 0, 0, 1,
+        {0, 0, 0, 0, 0, texts({"Daily shifts & times", "Fonts & printer setup"})},
+        {1, 0, 0, 0, 0, texts({"Schedule", "Daily shifts & times", "Fonts & printer setup"})},
+        {0, 1, 0, 0, 0, constrained},
+        {0, 0, 1, 0, 0, constrained},
+        {0, 0, 0, 1, 0, constrained},
+        {0, 0, 0, 0, 1, constrained},
+        {1, 0, 0, 0, 1,
          texts({"Schedule", "Daily shifts & times", "All constraints", "Fonts & printer setup"})},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(&c - cases);
         ws.gScheduleGenerated = c.generated;
         ws.gHasVacations = c.vacations;
         ws.gHasHolidays = c.holidays;
         ws.gHasNotedDays = c.noted;
         ws.gHasRestrictions = c.restrictions;
         open();
-        auto* list = control<QComboBox>("cmbViewEdit");
-        // The user's choice does not survive the return to the normal face.
+        QComboBox* list = window->cmbViewEdit;
         list->setCurrentIndex(list->count() - 1);
         window->modEnterBusyState();
         window->modLeaveBusyState();
@@ -351,46 +263,40 @@ TEST_F(MainWindow, ViewEditListOffersWhatTheWorkspaceHolds) {
         }
         EXPECT_EQ(items, c.items);
         EXPECT_EQ(list->currentIndex(), 0);
-        EXPECT_EQ(control<QAction>("mnuESchedule")->isEnabled(), c.generated == 1);
-        EXPECT_EQ(control<QAction>("mnuEConstraints")->isEnabled(),
+        EXPECT_EQ(window->mnuEConstraints->isEnabled(),
                   c.items.contains(QStringLiteral("All constraints")));
     }
 }
 
+// The frame's own click, on its enabled area with the left button, tells of a schedule that
+// is not there.
 TEST_F(MainWindow, AClickOnThePrintFrameWithoutAScheduleSaysSo) {
     struct Case {
-        const char* name;
-        int generatedAtOpen;  // decides whether the frame is enabled
-        int generatedAtClick;
+        int generatedAtOpen, generatedAtClick;  // the first decides whether the frame is enabled
         Qt::MouseButton button;
         bool told;
     };
-    const Case cases[] = {
-        {"enabled frame, schedule gone", 1, 0, Qt::LeftButton, true},
-        {"enabled frame, schedule there", 1, 1, Qt::LeftButton, false},
-        {"disabled frame", 0, 0, Qt::LeftButton, false},
-        {"right button", 1, 0, Qt::RightButton, false},
-    };
+    const Case cases[] = {{1, 0, Qt::LeftButton, true},
+                          {1, 1, Qt::LeftButton, false},
+                          {0, 0, Qt::LeftButton, false},
+                          {1, 0, Qt::RightButton, false}};
     withAgents(3);
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(&c - cases);
         s.dialogs.shown.clear();
         ws.gScheduleGenerated = c.generatedAtOpen;
         open();
         ws.gScheduleGenerated = c.generatedAtClick;
-        auto* frame = control<QGroupBox>("fraPrint");
+        QGroupBox* frame = window->fraPrint;
         press(frame, QEvent::MouseButtonPress, QPoint(frame->width() - 3, frame->height() - 3),
               c.button);
-        if (!c.told) {
-            EXPECT_TRUE(s.dialogs.shown.empty());
-            continue;
+        ASSERT_EQ(s.dialogs.shown.size(), c.told ? 1U : 0U);
+        if (c.told) {
+            EXPECT_EQ(s.dialogs.shown[0].text,
+                      QStringLiteral("You must generate a schedule before printing."));
+            EXPECT_EQ(s.dialogs.shown[0].icon, MsgIcon::Exclamation);
+            EXPECT_EQ(s.dialogs.shown[0].buttons, MsgButtons::OK);
         }
-        ASSERT_EQ(s.dialogs.shown.size(), 1U);
-        EXPECT_EQ(s.dialogs.shown[0].text,
-                  QStringLiteral("You must generate a schedule before printing."));
-        EXPECT_EQ(s.dialogs.shown[0].icon, MsgIcon::Exclamation);
-        EXPECT_EQ(s.dialogs.shown[0].buttons, MsgButtons::OK);
-        EXPECT_EQ(s.dialogs.shown[0].defaultButton, 1);
     }
 }
 
@@ -405,34 +311,27 @@ TEST_F(MainWindow, PrintBoxesAndEngineListMirrorTheWorkspace) {
     const Qt::CheckState shown[] = {Qt::Checked,   Qt::Unchecked, Qt::PartiallyChecked,
                                     Qt::Unchecked, Qt::Checked,   Qt::PartiallyChecked};
     for (int i = 0; i < 6; ++i) {
-        const std::string name = "chkPrint(" + std::to_string(i) + ")";
-        EXPECT_EQ(control<QCheckBox>(name.c_str())->checkState(), shown[i]) << name;
+        EXPECT_EQ(window->chkPrint[i]->checkState(), shown[i]) << i;
     }
-    auto* engines = control<QComboBox>("cmbGenerate");
-    EXPECT_EQ(engines->currentIndex(), 3);
-    EXPECT_EQ(engines->itemText(3), QStringLiteral("Serial (mixed)"));
+    EXPECT_EQ(window->cmbGenerate->currentText(), QStringLiteral("Serial (mixed)"));
 
-    control<QCheckBox>("chkPrint(1)")->click();
-    control<QCheckBox>("chkPrint(4)")->click();
-    control<QCheckBox>("chkPrint(5)")->click();
+    for (const int box : {1, 4, 5}) {
+        window->chkPrint[box]->click();
+    }
     EXPECT_EQ(ws.chkPrint, (std::array<int, 6>{1, 1, 2, 0, 0, 1}));
-    control<QCheckBox>("chkPrint(5)")->click();
-    control<QCheckBox>("chkPrint(5)")->click();
+    window->chkPrint[5]->click();
+    window->chkPrint[5]->click();
     EXPECT_EQ(ws.chkPrint[5], 1);  // on, off, on: never greyed again
-
-    engines->setCurrentIndex(1);
-    EXPECT_EQ(ws.cmbGenerateListIndex, 1);
 }
 
-// Each engine item chooses its engine and presses Generate, which ignores the press without
-// agents. The serial engines stand in the menu in the reverse of the list's order.
+// Each engine item chooses its engine, for saving too, and presses Generate, which ignores
+// the press without agents. The serial engines stand in the menu in the reverse of the list's
+// order.
 TEST_F(MainWindow, GenerateMenuChoosesTheEngineAndPresses) {
-    struct Case {
-        const char* item;
-        int index;
-    };
-    const Case cases[] = {
-        {"mnuGSmartRandom", 0}, {"mnuGShuffled", 1}, {"mnuGMixed", 3}, {"mnuGHorizontal", 2}};
+    const std::pair<QAction * frmMain::*, int> cases[] = {{&frmMain::mnuGSmartRandom, 0},
+                                                          {&frmMain::mnuGShuffled, 1},
+                                                          {&frmMain::mnuGMixed, 3},
+                                                          {&frmMain::mnuGHorizontal, 2}};
     for (const int agents : {3, 0}) {
         withAgents(agents);
         ws.cmbGenerateListIndex = agents == 0 ? 2 : 1;
@@ -440,14 +339,13 @@ TEST_F(MainWindow, GenerateMenuChoosesTheEngineAndPresses) {
         // The command itself stops at its first question.
         s.dialogs.answers.assign(8, MsgAnswer::No);
         int presses = 0;
-        QObject::connect(control<QPushButton>("cmdGenerate"), &QPushButton::clicked,
-                         [&presses] { ++presses; });
-        for (const Case& c : cases) {
-            SCOPED_TRACE(std::string(c.item) + " with " + std::to_string(agents) + " agents");
+        QObject::connect(window->cmdGenerate, &QPushButton::clicked, [&presses] { ++presses; });
+        for (const auto& [item, index] : cases) {
+            SCOPED_TRACE((window.get()->*item)->objectName().toStdString() + " with " +
+                         std::to_string(agents) + " agents");
             const int before = presses;
-            control<QAction>(c.item)->trigger();
-            EXPECT_EQ(control<QComboBox>("cmbGenerate")->currentIndex(), c.index);
-            EXPECT_EQ(ws.cmbGenerateListIndex, c.index);
+            (window.get()->*item)->trigger();
+            EXPECT_EQ(ws.cmbGenerateListIndex, index);
             EXPECT_EQ(presses - before, agents == 0 ? 0 : 1);
         }
     }
@@ -456,52 +354,44 @@ TEST_F(MainWindow, GenerateMenuChoosesTheEngineAndPresses) {
 TEST_F(MainWindow, LeavingTheBusyFaceRestoresTheMonthAndTheCursor) {
     withAgents(3);
     open();
-    EXPECT_FALSE(control<QGroupBox>("fraStatus")->isVisible());
-    EXPECT_EQ(control<QFrame>("shpStatus")->width(), 0);
-    EXPECT_EQ(control<QLabel>("labDate")->text(), QStringLiteral("January 2027"));
-
-    control<QGroupBox>("fraDate")->hide();
-    control<QGroupBox>("fraStatus")->show();
-    control<QLabel>("labStatus")->setText(QStringLiteral("Generating . . ."));
-    control<QLabel>("labStatusHigh")->setText(QStringLiteral("Agent 2"));
+    window->fraDate->hide();
+    window->fraStatus->show();
+    window->labStatus->setText(QStringLiteral("Generating . . ."));
+    window->labStatusHigh->setText(QStringLiteral("Agent 2"));
     window->modEnterBusyState();
     ws.gFocusAddButton = 1;
     window->modLeaveBusyState();
-    EXPECT_FALSE(control<QGroupBox>("fraStatus")->isVisible());
-    EXPECT_TRUE(control<QGroupBox>("fraDate")->isVisible());
-    EXPECT_TRUE(control<QLabel>("labStatus")->text().isEmpty());
-    EXPECT_TRUE(control<QLabel>("labStatusHigh")->text().isEmpty());
-    EXPECT_EQ(window->focusWidget(), control<QPushButton>("cmdAdd"));
+    EXPECT_FALSE(window->fraStatus->isVisible());
+    EXPECT_TRUE(window->fraDate->isVisible());
+    EXPECT_TRUE(window->labStatus->text().isEmpty());
+    EXPECT_TRUE(window->labStatusHigh->text().isEmpty());
+    EXPECT_EQ(window->focusWidget(), window->cmdAdd);
     EXPECT_EQ(ws.gFocusAddButton, 0);
 }
 
-// Enter presses the focused button, else the default one, as in any form.
+// Enter presses the focused button, else the default one if it is in sight, as in any form.
 TEST_F(MainWindow, EnterPressesTheFocusedOrTheDefaultButton) {
     withAgents(3);
     open();
     int oks = 0;
     int deletes = 0;
-    QObject::connect(control<QPushButton>("cmdOK"), &QPushButton::clicked, [&oks] { ++oks; });
-    QObject::connect(control<QPushButton>("cmdDelete"), &QPushButton::clicked,
-                     [&deletes] { ++deletes; });
+    QObject::connect(window->cmdOK, &QPushButton::clicked, [&oks] { ++oks; });
+    QObject::connect(window->cmdDelete, &QPushButton::clicked, [&deletes] { ++deletes; });
     const auto enter = [](QWidget* target) {
         QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
         QApplication::sendEvent(target, &event);
     };
 
-    control<QGroupBox>("fraEditAgent")->show();
-    control<QPushButton>("cmdOK")->setDefault(true);
-    enter(control<QLineEdit>("txtLastName"));
+    window->fraEditAgent->show();
+    window->cmdOK->setDefault(true);
+    enter(window->txtLastName);
     EXPECT_EQ(oks, 1);
-
-    control<QPushButton>("cmdDelete")->setFocus();
-    enter(control<QPushButton>("cmdDelete"));
+    window->cmdDelete->setFocus();
+    enter(window->cmdDelete);
     EXPECT_EQ(deletes, 1);
     EXPECT_EQ(oks, 1);
-
-    // A default button out of sight is no default.
-    control<QGroupBox>("fraEditAgent")->hide();
-    enter(control<QListWidget>("lstAgents"));
+    window->fraEditAgent->hide();
+    enter(window->lstAgents);
     EXPECT_EQ(oks, 1);
 }
 
@@ -519,15 +409,14 @@ TEST_F(MainWindow, OnlyAReturnFromAnotherFormRebuildsTheControls) {
     ASSERT_TRUE(activate(&box));
     box.hide();
     ASSERT_TRUE(activate(window.get()));
-    EXPECT_FALSE(control<QPushButton>("cmdAdd")->isEnabled());
+    EXPECT_FALSE(window->cmdAdd->isEnabled());
 
     QWidget form;
-    form.setObjectName(QStringLiteral("frmOther"));
     form.show();
     ASSERT_TRUE(activate(&form));
     form.hide();
     ASSERT_TRUE(activate(window.get()));
-    EXPECT_TRUE(control<QPushButton>("cmdAdd")->isEnabled());
+    EXPECT_TRUE(window->cmdAdd->isEnabled());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "fakes.h"
 #include "persistence/textfile.h"
 #include "shell/frmMain.h"
-#include "shell/session.h"
 #include "shell/textrules.h"
 #include "workspace/workspace.h"
 
@@ -11,90 +10,68 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-
 // Steps of the month stepper: +1 is one step down (the month before), -1 one step up (the
-// month after); anything else is a drag of the thumb.
-struct Case {
-    const char* what;
-    int month;
-    int year;
-    bool data;  // a holiday, a vacation and a schedule to lose
-    std::vector<int> steps;
-    std::vector<MsgAnswer> answers;
-    int endMonth;
-    int endYear;
-    bool erased;
-};
-
-}  // namespace
-
+// month after); anything else is a drag of the thumb. Only a month with data (a holiday, a
+// vacation and a schedule) asks before it loses them, and the answers come in turn. After a No the
+// bar is out of step: the next step is a difference of 2, which erases but does not move the month.
 TEST(MonthChange, StepsTheMonthAndErasesItsData) {
+    struct Case {
+        const char* what;
+        int month;
+        int year;
+        std::vector<int> steps;
+        std::vector<MsgAnswer> answers;
+        const char* end;  // the month and year shown afterwards
+        bool erased;
+    };
+    const QString question = QStringLiteral(
+        "Changing the date of the calendar will erase the schedule, as well as all holidays, "
+        "vacations, and notes.  Do you want to proceed anyway?");
+    const MsgAnswer yes = MsgAnswer::Yes;
+    const MsgAnswer no = MsgAnswer::No;
     const Case cases[] = {
-        {"forward over December", 12, 2026, false, {-1}, {}, 1, 2027, true},
-        {"back over January", 1, 2027, false, {1}, {}, 12, 2026, true},
-        {"two steps back", 3, 2027, false, {1, 1}, {}, 1, 2027, true},
-        {"a Yes erases and steps", 5, 2027, true, {-1}, {MsgAnswer::Yes}, 6, 2027, true},
-        {"a No keeps all", 5, 2027, true, {-1}, {MsgAnswer::No}, 5, 2027, false},
-        // After a No the bar is out of step: the next step is a difference of 2, which erases
-        // but does not move the month.
-        {"a step after a No",
-         5,
-         2027,
-         true,
-         {-1, -1},
-         {MsgAnswer::No, MsgAnswer::Yes},
-         5,
-         2027,
-         true},
-        {"a drag", 5, 2027, false, {-7}, {}, 5, 2027, true},
+        {"forward over December", 12, 2026, {-1}, {}, "January 2027", true},
+        {"back over January", 1, 2027, {1}, {}, "December 2026", true},
+        {"two steps back", 3, 2027, {1, 1}, {}, "January 2027", true},
+        {"a Yes erases and steps", 5, 2027, {-1}, {yes}, "June 2027", true},
+        {"a No keeps all", 5, 2027, {-1}, {no}, "May 2027", false},
+        {"a step after a No", 5, 2027, {-1, -1}, {no, yes}, "May 2027", true},
+        {"a drag", 5, 2027, {-7}, {}, "May 2027", true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
+        const bool data = !c.answers.empty();
         QTemporaryDir home;
         TestServices s;
         Workspace ws;
-        modInitNameTables(ws);
-        modInitSession(ws, home.path());
-        ws.gCurrentMonth = c.month;
-        ws.gCurrentYear = c.year;
-        modSetupMonth(ws);
+        openMonth(ws, c.year, c.month, home.path());
         ws.gAgentCount = 1;
         ws.redimAgents(1);
-        ws.gAgentLast[1] = QStringLiteral("Chen");
         ws.gRestriction[1][2][1] = 1;
         ws.gOutlookBody = QStringLiteral("kept");
-        if (c.data) {
+        if (data) {
             ws.gHoliday[4] = ws.gHasHolidays = 1;
             ws.gVacation[1][9] = ws.gHasVacations = 1;
             ws.schedule(2, 1, 0) = QStringLiteral("Chen");
             ws.gScheduleGenerated = 1;
             ws.gCalendarTitle = QStringLiteral("Old title");
         }
-        for (const MsgAnswer answer : c.answers) {
-            s.dialogs.answers.push_back(answer);
-        }
+        s.dialogs.answers.assign(c.answers.begin(), c.answers.end());
         frmMain window(ws, s.ctx, QStringLiteral("desko40"));
         window.show();
         for (const int step : c.steps) {
             window.vscDate->setValue(window.vscDate->value() + step);
         }
 
-        EXPECT_EQ(ws.gCurrentMonth, c.endMonth);
-        EXPECT_EQ(ws.gCurrentYear, c.endYear);
-        EXPECT_EQ(window.labDate->text(),
-                  ws.currentMonthName() + QLatin1Char(' ') + QString::number(c.endYear));
-        EXPECT_EQ(s.dialogs.shown.size(), c.answers.size());
-        if (!c.answers.empty()) {
-            EXPECT_EQ(s.dialogs.shown[0].text,
-                      modWrapMessage(QStringLiteral("Changing the date of the calendar will erase "
-                                                    "the schedule, as well as all holidays, "
-                                                    "vacations, and notes.  Do you want to "
-                                                    "proceed anyway?"),
-                                     s.dialogs));
-            EXPECT_EQ(s.dialogs.shown[0].defaultButton, 2);
+        const QString end = QString::fromUtf8(c.end);
+        EXPECT_EQ(ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear), end);
+        EXPECT_EQ(window.labDate->text(), end);
+        ASSERT_EQ(s.dialogs.shown.size(), c.answers.size());
+        for (const ScriptedDialogs::Shown& box : s.dialogs.shown) {
+            EXPECT_EQ(box.text, modWrapMessage(question, s.dialogs));
+            EXPECT_EQ(box.defaultButton, 2);
         }
-        if (c.data) {
+        if (data) {
             EXPECT_EQ(ws.gHoliday[4], c.erased ? 0 : 1);
             EXPECT_EQ(ws.gVacation[1][9], c.erased ? 0 : 1);
             EXPECT_EQ(ws.schedule(2, 1, 0).isEmpty(), c.erased);
@@ -105,14 +82,13 @@ TEST(MonthChange, StepsTheMonthAndErasesItsData) {
         EXPECT_EQ(ws.gRestriction[1][2][1], 1);
         EXPECT_EQ(ws.gOutlookBody, QStringLiteral("kept"));
         EXPECT_FALSE(ws.gDirty.has_value());
-        const QString ini = readTextFile(ws.gConfigFile).value_or(QString());
-        EXPECT_EQ(ini.contains(QStringLiteral("\r\nCurrent Month=") + QString::number(c.endMonth) +
-                               QStringLiteral("\r\n")),
+        const auto holds = [](const QString& file, const QString& line) {
+            return readTextFile(file).value_or(QString()).contains(line + QStringLiteral("\r\n"));
+        };
+        EXPECT_EQ(holds(ws.gConfigFile,
+                        QStringLiteral("\r\nCurrent Month=") + QString::number(ws.gCurrentMonth)),
                   c.erased);
-        const QString log = readTextFile(ws.gLogFile).value_or(QString());
-        EXPECT_EQ(log.contains(QStringLiteral("]     Changing the present month to ") +
-                               ws.currentMonthName() + QLatin1Char(' ') +
-                               QString::number(c.endYear) + QStringLiteral("\r\n")),
+        EXPECT_EQ(holds(ws.gLogFile, QStringLiteral("]     Changing the present month to ") + end),
                   c.erased);
     }
 }

@@ -5,9 +5,9 @@
 #include "shell/textrules.h"
 #include "workspace/workspace.h"
 
+#include <QAction>
 #include <QFile>
 #include <QLabel>
-#include <QListWidget>
 #include <QLockFile>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -17,107 +17,105 @@
 
 namespace {
 
-const QString kIniMissing = QStringLiteral(
-    "The Desko for Windows configuration file, Desko40.ini, could not be found in the program "
-    "directory.  The program will still run, but some configuration data may be lost.");
-
-// One run of the program in a directory of its own, on the example office when asked, with
-// the clock in December 2026 so that the coming month is the example's January 2027.
-class Startup : public ::testing::Test {
-protected:
-    void SetUp() override { s.clock.time = QDateTime(QDate(2026, 12, 15), QTime(9, 30, 0)); }
+// One run of the program in a directory of its own, with the clock in December 2026 so that
+// the coming month is the example office's January 2027.
+struct Start {
+    Start() { s.clock.time = QDateTime(QDate(2026, 12, 15), QTime(9, 30, 0)); }
 
     QString file(const char* name) const { return home.filePath(QString::fromUtf8(name)); }
+    QString text(const char* name) const { return readTextFile(file(name)).value_or(QString()); }
 
+    // The example office's working file, writable as a user's own would be.
     void withExampleOffice() const {
         ASSERT_TRUE(QFile::copy(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Desko40.ini"),
                                 file("Desko40.ini")));
         QFile::setPermissions(file("Desko40.ini"), QFile::ReadOwner | QFile::WriteOwner);
     }
 
-    DeskoRun start(const QString& commandLine = QString()) {
-        return modProgramStart(ws, s.ctx, home.path(), QStringLiteral("desko40"), commandLine, 0);
-    }
-
-    QString log() const { return readTextFile(file("Desko40.log")).value_or(QString()); }
-
-    template <typename T>
-    T* control(const DeskoRun& run, const char* name) const {
-        return run.window->findChild<T*>(QString::fromUtf8(name));
+    frmMain* start(const QString& commandLine = QString()) {
+        run = modProgramStart(ws, s.ctx, home.path(), QStringLiteral("desko40"), commandLine, 0);
+        return run.window.get();
     }
 
     QTemporaryDir home;
     TestServices s;
     Workspace ws;
+    DeskoRun run;
 };
 
-TEST_F(Startup, FirstRunWithoutAWorkingFileSaysSoAndGoesOn) {
-    const DeskoRun run = start();
-    ASSERT_TRUE(run.window);
-    ASSERT_EQ(s.dialogs.shown.size(), 1U);
-    EXPECT_EQ(s.dialogs.shown[0].text, modWrapMessage(kIniMissing, s.dialogs));
-    EXPECT_EQ(s.dialogs.shown[0].icon, MsgIcon::Stop);
-    // The message's log line comes before the run's header.
-    EXPECT_TRUE(log().startsWith(QStringLiteral("[09:30:00]     INI file not found at ") +
-                                 file("Desko40.ini") + QStringLiteral("\r\n[09:30:00]     ____")));
-    EXPECT_EQ(ws.gAgentCount, 0);
-    EXPECT_EQ(ws.gCurrentMonth, 1);
-    EXPECT_EQ(ws.gCurrentYear, 2027);
-    EXPECT_EQ(ws.gCalendarFont, QStringLiteral("Times New Roman"));
-    EXPECT_EQ(run.window->windowTitle(), QStringLiteral("Desko for Windows rev 4.0  [not saved]"));
-}
-
-TEST_F(Startup, TheComingMonthKeepsOrDropsTheSavedMonthsData) {
+// The start takes the coming month. The example office was saved in January 2027: its
+// holidays and titles stay only when the coming month is that month, and its standing
+// restrictions always. Without a working file the start says so, with the message's log line
+// before the run's header, and goes on.
+TEST(Startup, TheStartTakesTheComingMonth) {
     struct Case {
         QDate today;
-        int month;
-        int year;
+        bool example;
+        int month, year;
         bool reset;
     };
     const Case cases[] = {
-        {QDate(2026, 12, 1), 1, 2027, false},  // December schedules January of the next year
-        {QDate(2027, 1, 31), 2, 2027, true},
-        {QDate(2025, 12, 31), 1, 2026, true},  // same month, another year
+        {QDate(2026, 12, 1), true, 1, 2027, false},  // December schedules the next January
+        {QDate(2027, 1, 31), true, 2, 2027, true},
+        {QDate(2025, 12, 31), true, 1, 2026, true},  // same month, another year
+        {QDate(2026, 12, 15), false, 1, 2027, true},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.today.toString(Qt::ISODate).toStdString());
-        QTemporaryDir dir;
-        QFile::copy(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Desko40.ini"),
-                    dir.filePath(QStringLiteral("Desko40.ini")));
-        TestServices services;
-        services.clock.time = QDateTime(c.today, QTime(8, 0));
-        Workspace w;
-        const DeskoRun run =
-            modProgramStart(w, services.ctx, dir.path(), QStringLiteral("desko40"), {}, 0);
-        EXPECT_TRUE(services.dialogs.shown.empty());
-        EXPECT_EQ(w.gCurrentMonth, c.month);
-        EXPECT_EQ(w.gCurrentYear, c.year);
-        EXPECT_EQ(w.gAgentCount, 12);
-        EXPECT_EQ(w.gHoliday[1], c.reset ? 0 : 1);
-        EXPECT_EQ(w.gCalendarTitle.isEmpty(), c.reset);
-        EXPECT_EQ(w.gHasRestrictions, 1);  // standing restrictions outlive the month
-        const QString text =
-            readTextFile(dir.filePath(QStringLiteral("Desko40.log"))).value_or(QString());
-        EXPECT_TRUE(text.contains(QStringLiteral("]     Saved month is January 2027\r\n")));
+        SCOPED_TRACE(&c - cases);
+        Start r;
+        if (c.example) {
+            r.withExampleOffice();
+        }
+        r.s.clock.time = QDateTime(c.today, QTime(9, 30));
+        ASSERT_TRUE(r.start());
+        ASSERT_EQ(r.s.dialogs.shown.size(), c.example ? 0U : 1U);
+        const QString log = r.text("Desko40.log");
+        if (!c.example) {
+            EXPECT_EQ(r.s.dialogs.shown[0].text,
+                      modWrapMessage(QStringLiteral("The Desko for Windows configuration file, "
+                                                    "Desko40.ini, could not be found in the "
+                                                    "program directory.  The program will still "
+                                                    "run, but some configuration data may be "
+                                                    "lost."),
+                                     r.s.dialogs));
+            EXPECT_EQ(r.s.dialogs.shown[0].icon, MsgIcon::Stop);
+            EXPECT_TRUE(log.startsWith(QStringLiteral("[09:30:00]     INI file not found at ") +
+                                       r.file("Desko40.ini") +
+                                       QStringLiteral("\r\n[09:30:00]     ____")));
+        }
+        EXPECT_EQ(r.ws.gCurrentMonth, c.month);
+        EXPECT_EQ(r.ws.gCurrentYear, c.year);
+        EXPECT_EQ(r.ws.gAgentCount, c.example ? 12 : 0);
+        EXPECT_EQ(r.ws.gHoliday[1], c.reset ? 0 : 1);
+        EXPECT_EQ(r.ws.gCalendarTitle.isEmpty(), c.reset);
+        EXPECT_EQ(r.ws.gHasRestrictions, c.example ? 1 : 0);
+        EXPECT_EQ(log.contains(QStringLiteral("]     Saved month is January 2027\r\n")), c.example);
         EXPECT_EQ(
-            text.contains(QStringLiteral("]     Month number has changed since program was last "
-                                         "used--resetting month-specific data\r\n")),
+            log.contains(QStringLiteral("]     Month number has changed since program was last "
+                                        "used--resetting month-specific data\r\n")),
             c.reset);
+        EXPECT_EQ(r.run.window->windowTitle(),
+                  QStringLiteral("Desko for Windows rev 4.0  [not saved]"));
     }
 }
 
-TEST_F(Startup, ASecondInstanceIsRefusedAndTouchesNothing) {
-    withExampleOffice();
-    const DeskoRun first = start();
-    ASSERT_TRUE(first.window);
-    const QString logBefore = log();
-    const QString iniBefore = readTextFile(file("Desko40.ini")).value_or(QString());
+// One run per program directory: the claim of a run that crashed lapses, a live run's claim
+// refuses a second run, which touches nothing.
+TEST(Startup, ASecondInstanceIsRefusedAndTouchesNothing) {
+    Start r;
+    r.withExampleOffice();
+    QFile lock(r.file("Desko40.lock"));
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.write("2147483000\ndesko40\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    lock.close();
+    ASSERT_TRUE(r.start());
+    const QString log = r.text("Desko40.log");
+    const QString ini = r.text("Desko40.ini");
 
     TestServices other;
     Workspace second;
-    const DeskoRun refused =
-        modProgramStart(second, other.ctx, home.path(), QStringLiteral("desko40"), {}, 0);
-    EXPECT_FALSE(refused.window);
+    EXPECT_FALSE(
+        modProgramStart(second, other.ctx, r.home.path(), QStringLiteral("desko40"), {}, 0).window);
     ASSERT_EQ(other.dialogs.shown.size(), 1U);
     EXPECT_EQ(
         other.dialogs.shown[0].text,
@@ -125,26 +123,20 @@ TEST_F(Startup, ASecondInstanceIsRefusedAndTouchesNothing) {
             QStringLiteral("You may run only one instance of Desko for Windows rev 4.0 at a time."),
             other.dialogs));
     EXPECT_EQ(other.dialogs.shown[0].icon, MsgIcon::Stop);
-    EXPECT_EQ(log(), logBefore);
-    EXPECT_EQ(readTextFile(file("Desko40.ini")), iniBefore);
+    EXPECT_EQ(r.text("Desko40.log"), log);
+    EXPECT_EQ(r.text("Desko40.ini"), ini);
 }
 
-TEST_F(Startup, TheClaimOfACrashedRunLapses) {
-    QFile lock(file("Desko40.lock"));
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-    lock.write("2147483000\ndesko40\n" + QSysInfo::machineHostName().toUtf8() + "\n");
-    lock.close();
-    EXPECT_TRUE(start().window);
-}
-
-// Each road out with each state of the change flag and each answer: the question asked, when
-// the working file is written, whether the run ends and whether the log is closed.
-TEST_F(Startup, TwoRoadsOut) {
+// Each road out with each state of the change flag, each answer and each end of the Save As
+// that Yes runs: the question asked, when the working file is written, whether the run ends
+// and whether the log is closed.
+TEST(Startup, TwoRoadsOut) {
     enum class Road { Close, Exit };
     struct Case {
         Road road;
         std::optional<int> dirty;
         std::optional<MsgAnswer> answer;  // none: no question is asked
+        bool saves;                       // the Save As after Yes completes
         bool ends;
     };
     const QString closeQuestion = QStringLiteral(
@@ -153,108 +145,112 @@ TEST_F(Startup, TwoRoadsOut) {
         "The desko schedule has changed since you last saved the configuration.  Do you want to "
         "save the changes?");
     const Case cases[] = {
-        {Road::Close, std::nullopt, std::nullopt, true},
-        {Road::Close, 0, std::nullopt, true},
-        {Road::Close, 1, MsgAnswer::Yes, true},  // ends even though nothing was saved
-        {Road::Close, 1, MsgAnswer::No, true},
-        {Road::Close, 1, MsgAnswer::Cancel, false},
-        {Road::Exit, std::nullopt, std::nullopt, true},
-        {Road::Exit, 1, MsgAnswer::Yes, false},  // the save did not complete: stay
-        {Road::Exit, 1, MsgAnswer::No, true},
+        {Road::Close, std::nullopt, std::nullopt, false, true},
+        {Road::Close, 0, std::nullopt, false, true},
+        {Road::Close, 1, MsgAnswer::Yes, true, true},
+        {Road::Close, 1, MsgAnswer::Yes, false, true},  // ends even though nothing was saved
+        {Road::Close, 1, MsgAnswer::No, false, true},
+        {Road::Close, 1, MsgAnswer::Cancel, false, false},
+        {Road::Exit, std::nullopt, std::nullopt, false, true},
+        {Road::Exit, 0, std::nullopt, false, true},
+        {Road::Exit, 1, MsgAnswer::Yes, true, true},
+        {Road::Exit, 1, MsgAnswer::Yes, false, false},  // the save did not complete: stay
+        {Road::Exit, 1, MsgAnswer::No, false, true},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(static_cast<int>(c.road) * 100 + c.dirty.value_or(-1) * 10 +
-                     (c.answer ? static_cast<int>(*c.answer) : -1));
-        QTemporaryDir dir;
-        TestServices services;
-        Workspace w;
-        const DeskoRun run =
-            modProgramStart(w, services.ctx, dir.path(), QStringLiteral("desko40"), {}, 0);
-        const QString ini = dir.filePath(QStringLiteral("Desko40.ini"));
+        SCOPED_TRACE(&c - cases);
+        Start r;
+        frmMain* window = r.start();
+        const QString ini = r.file("Desko40.ini");
         QFile::remove(ini);
-        w.gDirty = c.dirty;
-        services.dialogs.shown.clear();
+        r.ws.gDirty = c.dirty;
+        r.s.dialogs.shown.clear();
         if (c.answer) {
-            services.dialogs.answers.push_back(*c.answer);
+            r.s.dialogs.answers.push_back(*c.answer);
+        }
+        if (c.saves) {
+            r.s.dialogs.fileAnswers.push_back(r.file("last words"));
         }
         bool writtenBeforeQuestion = false;
-        services.dialogs.whileShown = [&] { writtenBeforeQuestion = QFile::exists(ini); };
-        QSignalSpy ended(run.window.get(), &frmMain::programEnds);
+        r.s.dialogs.whileShown = [&] { writtenBeforeQuestion = QFile::exists(ini); };
+        QSignalSpy ended(window, &frmMain::programEnds);
 
         if (c.road == Road::Close) {
-            run.window->close();
+            window->close();
         } else {
-            run.window->mnuFExit->trigger();
+            window->mnuFExit->trigger();
         }
 
         EXPECT_EQ(ended.count(), c.ends ? 1 : 0);
-        ASSERT_EQ(services.dialogs.shown.size(), c.answer ? 1U : 0U);
+        ASSERT_EQ(r.s.dialogs.shown.size(), c.answer ? 1U : 0U);
         if (c.answer) {
-            const auto& box = services.dialogs.shown[0];
+            const auto& box = r.s.dialogs.shown[0];
             EXPECT_EQ(box.text, modWrapMessage(c.road == Road::Close ? closeQuestion : exitQuestion,
-                                               services.dialogs));
+                                               r.s.dialogs));
             EXPECT_EQ(box.buttons,
                       c.road == Road::Close ? MsgButtons::YesNoCancel : MsgButtons::YesNo);
             EXPECT_EQ(box.icon, MsgIcon::Question);
             EXPECT_EQ(writtenBeforeQuestion, c.road == Road::Close);
         }
+        EXPECT_EQ(r.s.dialogs.filesShown.size(), c.answer == MsgAnswer::Yes ? 1U : 0U);
+        EXPECT_EQ(r.text("last words.dko").contains(QStringLiteral("\r\n[Schedule]\r\n")), c.saves);
         EXPECT_EQ(QFile::exists(ini), c.road == Road::Close || c.ends);
-        const QString text =
-            readTextFile(dir.filePath(QStringLiteral("Desko40.log"))).value_or(QString());
-        EXPECT_EQ(text.contains(QStringLiteral("]     Closing Desko40.log on ")),
+        const QString log = r.text("Desko40.log");
+        EXPECT_EQ(log.contains(QStringLiteral("]     Closing Desko40.log on ")),
                   c.road == Road::Close && c.ends);
-        EXPECT_EQ(text.contains(QStringLiteral("]     Cancelling unload\r\n")),
+        EXPECT_EQ(log.contains(QStringLiteral("]     Cancelling unload\r\n")),
                   c.answer == MsgAnswer::Cancel);
-        EXPECT_EQ(run.window->isVisible(), !(c.road == Road::Close && c.ends));
+        EXPECT_EQ(window->isVisible(), !(c.road == Road::Close && c.ends));
     }
 }
 
-TEST_F(Startup, AScheduleFileOnTheCommandLineOpens) {
-    withExampleOffice();
-    const QString dko = file("june office.dko");
-    ASSERT_TRUE(QFile::copy(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"), dko));
-    const DeskoRun run = start(dko);
-    EXPECT_EQ(ws.gDirty, 0);
-    EXPECT_EQ(ws.gScheduleTag, QStringLiteral(" [June Office.dko]"));
-    EXPECT_EQ(ws.gScheduleGenerated, 1);
-    EXPECT_EQ(ws.gCalendarTitle, QStringLiteral("January 2027 Desko Schedule"));
-    EXPECT_TRUE(log().contains(QStringLiteral("]     Program started with command switch\r\n")));
-    EXPECT_TRUE(log().contains(QStringLiteral("]     Software startup switch is ")));
-    // The working file now follows the opened file's month, and never holds its schedule.
-    const QString ini = readTextFile(file("Desko40.ini")).value_or(QString());
-    EXPECT_TRUE(ini.contains(QStringLiteral("\r\nCurrent Month=1\r\n")));
-    EXPECT_FALSE(ini.contains(QStringLiteral("[Schedule]")));
-}
-
-TEST_F(Startup, CommandLinesThatOpenNothing) {
+// A schedule file named on the command line opens and the review takes over; anything else
+// opens nothing. A hidden file passes the start's test but not the opening's, and leaves the
+// window busy.
+TEST(Startup, TheCommandLine) {
     struct Case {
-        const char* what;
-        QString commandLine;
-        bool busy;  // the hidden file passes the first test only
+        const char* name;
+        bool quoted;
+        bool opens;
+        bool busy;
     };
-    withExampleOffice();
-    QFile::copy(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"),
-                file(".hidden.dko"));
-    QFile::copy(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"),
-                file("office.dko"));
     const Case cases[] = {
-        {"a file that is not there", file("absent.dko"), false},
-        {"a quoted name", QLatin1Char('"') + file("office.dko") + QLatin1Char('"'), false},
-        {"a hidden file", file(".hidden.dko"), true},
+        {"june office.dko", false, true, true},
+        {"absent.dko", false, false, false},
+        {"office.dko", true, false, false},
+        {".hidden.dko", false, false, true},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        QTemporaryDir dir;
-        QFile::copy(file("Desko40.ini"), dir.filePath(QStringLiteral("Desko40.ini")));
-        TestServices services;
-        Workspace w;
-        const DeskoRun run = modProgramStart(w, services.ctx, dir.path(), QStringLiteral("desko40"),
-                                             c.commandLine, 0);
-        EXPECT_FALSE(w.gDirty.has_value());
-        EXPECT_EQ(w.gScheduleTag, QStringLiteral(" [not saved]"));
-        EXPECT_EQ(run.window->cmdAdd->isEnabled(), !c.busy);
-        EXPECT_EQ(run.window->labStatus->text(),
+        SCOPED_TRACE(c.name);
+        Start r;
+        r.withExampleOffice();
+        // The schedule file differs from the working file, so that the working file is seen to
+        // follow it.
+        QString dko = readTextFile(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"))
+                          .value_or(QString());
+        dko.replace(QStringLiteral("Printer Format=111000"),
+                    QStringLiteral("Printer Format=010201"));
+        for (const char* name : {"june office.dko", "office.dko", ".hidden.dko"}) {
+            ASSERT_TRUE(writeTextFile(r.file(name), dko));
+        }
+        const QString path = r.file(c.name);
+        const frmMain* window =
+            r.start(c.quoted ? QLatin1Char('"') + path + QLatin1Char('"') : path);
+
+        EXPECT_EQ(r.ws.gDirty, c.opens ? std::optional<int>(0) : std::nullopt);
+        EXPECT_EQ(r.ws.gScheduleTag,
+                  c.opens ? QStringLiteral(" [June Office.dko]") : QStringLiteral(" [not saved]"));
+        EXPECT_EQ(window->cmdAdd->isEnabled(), !c.busy);
+        EXPECT_EQ(window->labStatus->text(),
                   c.busy ? QStringLiteral("Opening a desko schedule . . .") : QString());
+        EXPECT_EQ(r.text("Desko40.log")
+                      .contains(QStringLiteral("]     Program started with command switch\r\n")),
+                  c.opens);
+        // The working file follows the opened file, and never holds its schedule.
+        const QString ini = r.text("Desko40.ini");
+        EXPECT_EQ(ini.contains(QStringLiteral("\r\nPrinter Format=010201\r\n")), c.opens);
+        EXPECT_FALSE(ini.contains(QStringLiteral("[Schedule]")));
+        EXPECT_EQ(r.ws.gScheduleGenerated, c.opens ? 1 : 0);
     }
 }
 
