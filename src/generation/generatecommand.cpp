@@ -25,9 +25,7 @@ void frmMain::cmdGenerate_Click() {
         return;
     }
     modHourglass();
-    fraDate->hide();
-    fraStatus->show();
-    labStatus->setText(QStringLiteral("Generating a schedule . . ."));
+    showStatus(QStringLiteral("Generating a schedule . . ."));
     // Once would do; the command has always entered the busy state three times.
     modEnterBusyState();
     modEnterBusyState();

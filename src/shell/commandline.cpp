@@ -15,12 +15,7 @@
 // A hidden file passes the start's test but not this one: the window then stays busy,
 // with the status showing, until it next becomes active.
 void frmMain::modOpenFromCommandLine(QString& path) {
-    fraDate->hide();
-    fraStatus->show();
-    labStatus->setText(QStringLiteral("Opening a desko schedule . . ."));
-    modEnterBusyState();
-    modHourglass();
-    modDoEvents();
+    beginLongCommand(QStringLiteral("Opening a desko schedule . . ."));
     const QFileInfo file(path);
     if (!file.isFile() || file.isHidden()) {
         return;

@@ -113,12 +113,7 @@ void frmMain::mnuFOpen_Click() {
         scheduleDialog(ws_, QStringLiteral("Open desko schedule..."), QStringLiteral("*.dko")));
     if (chosen) {
         const QString& fileName = *chosen;
-        fraDate->hide();
-        fraStatus->show();
-        labStatus->setText(QStringLiteral("Opening a desko schedule . . ."));
-        modEnterBusyState();
-        modHourglass();
-        modDoEvents();
+        beginLongCommand(QStringLiteral("Opening a desko schedule . . ."));
         modStatus(ws_, ctx_, QStringLiteral("Opening desko schedule ") + modProperCase(fileName));
         modLoadWorkspace(ws_, ctx_, fileName);
         showPrintAndEngine();
@@ -155,12 +150,7 @@ void frmMain::mnuFSaveAs_Click() {
         modDoEvents();
         return;
     }
-    fraDate->hide();
-    fraStatus->show();
-    labStatus->setText(QStringLiteral("Saving the desko schedule . . ."));
-    modEnterBusyState();
-    modHourglass();
-    modDoEvents();
+    beginLongCommand(QStringLiteral("Saving the desko schedule . . ."));
     QString fileName = *chosen;
     if (fileName.size() > 3 && fileName.right(4).toUpper() != QLatin1String(".DKO")) {
         fileName += QStringLiteral(".dko");

@@ -479,6 +479,19 @@ void frmMain::showPrintAndEngine() {
     }
 }
 
+void frmMain::showStatus(const QString& text) {
+    fraDate->hide();
+    fraStatus->show();
+    labStatus->setText(text);
+}
+
+void frmMain::beginLongCommand(const QString& text) {
+    showStatus(text);
+    modEnterBusyState();
+    modHourglass();
+    modDoEvents();
+}
+
 void frmMain::modEnterBusyState() {
     setEnabledAll({lstAgents, cmdAdd, cmdChange, cmdDelete, cmdVacations, cmdRestrictions,
                    cmdHolidays, cmdNotes, labDate, cmbViewEdit, cmdViewEdit, cmbGenerate,

@@ -178,6 +178,10 @@ private:
     void showToFront();
     void mirrorPrintAndEngine();
     void showPrintAndEngine();
+    // The status frame in the month frame's place, telling what the command does.
+    void showStatus(const QString& text);
+    // A long command begins: its status shows and the window goes busy under the hourglass.
+    void beginLongCommand(const QString& text);
     // Each group of commands connects its own controls.
     void connectAgentCommands();
     void connectMonthChange();
