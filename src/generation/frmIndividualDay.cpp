@@ -108,17 +108,13 @@ void frmIndividualDay::Form_Load() {
     }
 }
 
-int frmIndividualDay::selectedWeekday() const {
-    return ((ws_.gSelectedDay + ws_.gFirstWeekday - 1) % 7 + 7) % 7;
-}
-
 void frmIndividualDay::Form_Activate() {
     move(calendar_.pos());
     resize(calendar_.size());
     setWindowTitle(calendar_.windowTitle());
 
     const int day = ws_.gSelectedDay;
-    const int w = selectedWeekday();
+    const int w = ws_.weekdayOf(ws_.gSelectedDay);
     // A list shows no agent unless its cell holds a key that the list offers; what an
     // earlier day chose is forgotten.
     for (auto& shift : cmbShift) {
@@ -160,7 +156,7 @@ void frmIndividualDay::cmdOK_Click() {
 
     // Every shift is written, used or not: an unused shift's lists show nothing, so its cells
     // become empty. A slot beyond the four lists keeps what it holds.
-    const int w = selectedWeekday();
+    const int w = ws_.weekdayOf(ws_.gSelectedDay);
     if (scheduleInRange(day, 0, 0)) {
         for (int n = 1; n <= kShifts; ++n) {
             const int last = std::min(ws_.gShiftAgents[w][n], kSlots - 1);

@@ -49,7 +49,6 @@ private:
     void buildControls();
     void Form_Load();
     void Form_Unload();
-    int selectedWeekday() const;
 
     Workspace& ws_;
     Context& ctx_;

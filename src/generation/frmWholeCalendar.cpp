@@ -1,5 +1,6 @@
 #include "generation/frmWholeCalendar.h"
 
+#include "generation/daycaption.h"
 #include "generation/engines.h"
 #include "generation/frmIndividualDay.h"
 #include "generation/generate.h"
@@ -32,16 +33,12 @@ constexpr int kColumns = 7;
 constexpr int kRows = 6;
 // A cell's note stands on its sixth line, under the shifts; a day of six shifts of one
 // agent pushes it to the seventh, which the cell still shows.
-constexpr int kNoteLine = 6;
 constexpr int kCellLines = 7;
 // The rows of the form's grid: the instruction, the day names, six weeks, the buttons.
 constexpr int kInstructionRow = 0;
 constexpr int kDayNameRow = 1;
 constexpr int kFirstWeekRow = 2;
 constexpr int kButtonRow = kFirstWeekRow + kRows;
-
-// A cell breaks its lines here; the label shows each one on a line of its own.
-const QChar kLineBreak = QLatin1Char('\n');
 
 QString indexedName(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
@@ -228,35 +225,10 @@ void frmWholeCalendar::Form_Activate() {
         if (i < 0 || i >= kCells) {
             continue;
         }
-        const int w = i % kColumns;
         labNumber[i]->setText(QString::number(d));
         labNumber[i]->show();
 
-        QString caption;
-        if (ws_.gHoliday[d] == 1) {
-            caption = QString(kNoteLine - 1, kLineBreak) + ws_.gHolidayName[d];
-        } else {
-            // The keys of a shift stand two to a line, joined by a slash; a shift of one agent
-            // has a line to itself.
-            const int shifts = std::min(ws_.gShiftCount[w], kMaxShift);
-            for (int s = 1; s <= shifts; ++s) {
-                const int last = std::min(ws_.gShiftAgents[w][s], kMaxSlot);
-                for (int k = 0; k <= last; ++k) {
-                    caption += ws_.schedule(d, s, k);
-                    const bool joined = (k == 0 && last > 0) || (k == 2 && last > 2);
-                    caption += joined ? QLatin1Char('/') : kLineBreak;
-                }
-            }
-            // The note stands on the sixth line, or right after the names when they reach it.
-            if (ws_.gNoted[d] == 1) {
-                const auto lines = caption.count(kLineBreak);
-                if (lines < kNoteLine - 1) {
-                    caption += QString(kNoteLine - 1 - lines, kLineBreak);
-                }
-                caption += ws_.gNotedText[d];
-            }
-        }
-        labDay[i]->setText(caption);
+        labDay[i]->setText(modDayCaption(ws_, d));
         labDay[i]->show();
         labDay[i]->parentWidget()->show();
     }

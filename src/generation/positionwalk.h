@@ -7,12 +7,6 @@
 // The positions of a day and the agent facts the deal-out engines read, shared so that
 // every engine walks a day and reads an agent the same way.
 
-// The weekday of a day of the month, 0 Sunday .. 6 Saturday. Day 0, the day before the
-// 1st, has one too.
-inline int modWeekdayOfDay(const Workspace& ws, int day) {
-    return (day + 6 + ws.gFirstWeekday) % 7;
-}
-
 enum class ShiftOrder { Upward, Downward };
 
 // Calls visit(shift, slot) for every position of the day: its weekday's shifts in the given
@@ -20,7 +14,7 @@ enum class ShiftOrder { Upward, Downward };
 // table is kept inside gSchedule's bounds, so a damaged one cannot reach past it.
 template <typename Visit>
 void modForEachPosition(const Workspace& ws, int day, ShiftOrder order, Visit&& visit) {
-    const int weekday = modWeekdayOfDay(ws, day);
+    const int weekday = ws.weekdayOf(day);
     const int shifts = std::clamp(ws.gShiftCount[weekday], 0, kMaxShift);
     for (int i = 1; i <= shifts; ++i) {
         const int shift = order == ShiftOrder::Upward ? i : shifts + 1 - i;
@@ -48,5 +42,5 @@ inline bool modAgentBarred(const Workspace& ws, int agent, int day, int shift) {
         return false;
     }
     const bool away = day >= 0 && day < kMonthDaySlots && ws.gVacation[agent][day] == 1;
-    return away || ws.gRestriction[agent][modWeekdayOfDay(ws, day)][shift] == 1;
+    return away || ws.gRestriction[agent][ws.weekdayOf(day)][shift] == 1;
 }

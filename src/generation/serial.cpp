@@ -53,7 +53,7 @@ void placeDay(Workspace& ws, int& cursor, int day, ShiftOrder order) {
 void placeDays(Workspace& ws, int& cursor, bool skipWeekends) {
     const int days = ws.currentMonthDays();
     for (int day = 1; day <= days; ++day) {
-        const int weekday = modWeekdayOfDay(ws, day);
+        const int weekday = ws.weekdayOf(day);
         if (ws.gHoliday[day] == 1 || (skipWeekends && (weekday == 0 || weekday == 6))) {
             continue;
         }

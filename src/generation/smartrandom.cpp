@@ -77,7 +77,7 @@ class Grid {
 public:
     explicit Grid(Workspace& ws) : ws_(ws), days_(ws.currentMonthDays()) {
         for (int day = 0; day < kDays; ++day) {
-            weekday_[day] = ((day + 6 + ws.gFirstWeekday) % 7 + 7) % 7;
+            weekday_[day] = ws.weekdayOf(day);
         }
         for (int w = 0; w < kWeekdays; ++w) {
             shifts_[w] = std::clamp(ws.gShiftCount[w], 0, kMaxShift);

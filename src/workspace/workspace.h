@@ -142,6 +142,9 @@ struct Workspace {
         return gSchedule[scheduleIndex(day, shift, slot)];
     }
 
+    // The weekday of a day of the month, 0 Sunday .. 6 Saturday; day 0, the day before the
+    // 1st, has one too.
+    int weekdayOf(int day) const { return ((day + 6 + gFirstWeekday) % 7 + 7) % 7; }
     // Days and name of the current month; 0 and empty while the month is outside 1..12.
     int currentMonthDays() const;
     QString currentMonthName() const;
