@@ -16,8 +16,9 @@
 #include "generation/engines.h"
 #include "generation/generate.h"
 #include "plainsmartrandom.h"
-#include "shell/agentkeys.h"
-#include "workspace/workspace.h"
+#include "core/model/agentkeys.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -136,7 +137,7 @@ struct Bench {
         ws.gHasVacations = 1;
         ws.gHasRestrictions = 1;
         ws.gLogFile = dir.filePath(QStringLiteral("Desko40.log"));
-        ws.gAgentRatio = static_cast<double>(ws.gAgentCount) / modBusiestWeekdayPositions(ws);
+        ws.gAgentRatio = static_cast<double>(ws.gAgentCount) / busiestWeekdayPositions(ws);
     }
 
     // Runs the engine once per iteration from an erased schedule and the same random state.

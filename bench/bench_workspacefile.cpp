@@ -11,9 +11,11 @@
 
 #include "benchservices.h"
 #include "persistence/workspacefile.h"
-#include "shell/agentkeys.h"
+#include "core/model/agentkeys.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/calendar.h"
+#include "core/model/monthdata.h"
+#include "core/model/workspace.h"
 
 #include <QFileInfo>
 #include <QString>

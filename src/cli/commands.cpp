@@ -1,15 +1,16 @@
 #include "cli/commands.h"
 
 #include "generation/generate.h"
-#include "generation/randomsequence.h"
-#include "persistence/registrystore.h"
+#include "core/services/randomsequence.h"
+#include "core/services/registrystore.h"
 #include "persistence/workspacefile.h"
-#include "shell/clock.h"
-#include "shell/context.h"
-#include "shell/dialogs.h"
+#include "core/services/clock.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
 #include "shell/session.h"
-#include "workspace/shifttime.h"
-#include "workspace/workspace.h"
+#include "core/model/shifttime.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <QFileInfo>
 
@@ -49,16 +50,17 @@ private:
 // A workspace as a run of the program has it before reading any file. The tool leaves no
 // trace on the machine, so the settings store lives only as long as the command.
 struct Session {
-    Session(QTextStream& err, const QString& subject) : dialogs(err, subject) {
+    Session(QTextStream& err, const QString& subject, const Launch& launch)
+        : dialogs(err, subject), ctx{clock, dialogs, registry, {}, {}, launch} {
         modInitNameTables(ws);
-        modInitSession(ws, modAppPath());
+        modInitSession(ws, launch.home);
         ws.gLogFile.clear();
     }
     Workspace ws;
     SystemClock clock;
     ConsoleDialogs dialogs;
     MemoryRegistryStore registry;
-    Context ctx{clock, dialogs, registry, {}};
+    Context ctx;
 };
 
 int usage(QTextStream& err) {
@@ -114,14 +116,14 @@ bool load(Session& session, const QString& path, bool asWorkingFile) {
     if (asWorkingFile) {
         session.ws.gConfigFile = path;
         modLoadWorkspace(session.ws, session.ctx, QString());
-        modTakeSavedMonth(session.ws);
+        takeSavedMonth(session.ws);
     } else {
         modLoadWorkspace(session.ws, session.ctx, path);
     }
     return !session.dialogs.shown();
 }
 
-int resave(const QStringList& args, QTextStream& err) {
+int resave(const QStringList& args, QTextStream& err, const Launch& launch) {
     const bool working = args.value(1) == QStringLiteral("--working");
     const QStringList files = args.mid(working ? 2 : 1);
     if (files.size() != 2) {
@@ -132,7 +134,7 @@ int resave(const QStringList& args, QTextStream& err) {
     if (!readable(in)) {
         return fail(err, in, QStringLiteral("cannot be read"));
     }
-    Session session(err, in);
+    Session session(err, in, launch);
     if (!load(session, in, working)) {
         return 1;
     }
@@ -145,7 +147,7 @@ int resave(const QStringList& args, QTextStream& err) {
     return 0;
 }
 
-int keys(const QStringList& args, QTextStream& out, QTextStream& err) {
+int keys(const QStringList& args, QTextStream& out, QTextStream& err, const Launch& launch) {
     if (args.size() != 2) {
         return usage(err);
     }
@@ -153,7 +155,7 @@ int keys(const QStringList& args, QTextStream& out, QTextStream& err) {
     if (!readable(path)) {
         return fail(err, path, QStringLiteral("cannot be read"));
     }
-    Session session(err, path);
+    Session session(err, path, launch);
     if (!load(session, path, false)) {
         return 1;
     }
@@ -187,7 +189,7 @@ std::optional<GenerateOptions> generateOptions(const QStringList& args) {
         } else if (arg == QStringLiteral("--engine") && hasValue) {
             options.engine = static_cast<int>(kEngineNames.indexOf(args[++i]));
         } else if (arg == QStringLiteral("--seed") && hasValue) {
-            options.seed = modParseSeed(args[++i]);
+            options.seed = parseSeed(args[++i]);
             if (!options.seed) {
                 return std::nullopt;
             }
@@ -209,7 +211,7 @@ std::optional<GenerateOptions> generateOptions(const QStringList& args) {
     return options;
 }
 
-int generate(const QStringList& args, QTextStream& err) {
+int generate(const QStringList& args, QTextStream& err, const Launch& launch) {
     const std::optional<GenerateOptions> options = generateOptions(args);
     if (!options) {
         return usage(err);
@@ -219,7 +221,7 @@ int generate(const QStringList& args, QTextStream& err) {
     if (!readable(in)) {
         return fail(err, in, QStringLiteral("cannot be read"));
     }
-    Session session(err, in);
+    Session session(err, in, launch);
     if (!load(session, in, options->working)) {
         return 1;
     }
@@ -230,16 +232,16 @@ int generate(const QStringList& args, QTextStream& err) {
     if (options->base && (*options->base < 1 || *options->base > ws.gAgentCount)) {
         return fail(err, in, QStringLiteral("has no agent ") + QString::number(*options->base));
     }
-    session.ctx.random.setState(options->seed ? *options->seed
-                                              : modStartingSeed(session.clock.now()));
-    if (!modPrepareGenerate(ws, session.ctx, options->engine)) {
+    session.ctx.random.setState(
+        startingSeed(session.clock.now(), options->seed ? options->seed : launch.seed));
+    if (!prepareGenerate(ws, session.ctx, options->engine)) {
         return 1;
     }
     std::optional<int> cursor;
     if (options->base) {
         cursor = *options->base - 1;
     }
-    modRunEngine(ws, session.ctx, {}, cursor);
+    runEngine(ws, session.ctx, {}, cursor);
     // What the review form marks when it shows the result.
     ws.gScheduleGenerated = 1;
     if (!modSaveWorkspace(ws, session.ctx, target)) {
@@ -250,7 +252,7 @@ int generate(const QStringList& args, QTextStream& err) {
 
 }  // namespace
 
-int runCommand(const QStringList& args, QTextStream& out, QTextStream& err) {
+int runCommand(const QStringList& args, QTextStream& out, QTextStream& err, const Launch& launch) {
     const QString command = args.value(0);
     if (command == QStringLiteral("month")) {
         return month(args, out, err);
@@ -259,13 +261,13 @@ int runCommand(const QStringList& args, QTextStream& out, QTextStream& err) {
         return interpret(args, out, err);
     }
     if (command == QStringLiteral("resave")) {
-        return resave(args, err);
+        return resave(args, err, launch);
     }
     if (command == QStringLiteral("keys")) {
-        return keys(args, out, err);
+        return keys(args, out, err, launch);
     }
     if (command == QStringLiteral("generate")) {
-        return generate(args, err);
+        return generate(args, err, launch);
     }
     return usage(err);
 }

@@ -1,10 +1,12 @@
 #include "generation/generate.h"
 
-#include "persistence/log.h"
-#include "shell/context.h"
-#include "shell/dialogs.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "core/services/log.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/monthdata.h"
+#include "core/model/workspace.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +15,7 @@ namespace {
 
 // Every question of the command warns, and only a No stops it.
 bool goOn(Context& ctx, const QString& question) {
-    return modMsgBox(ctx.dialogs, question, MsgIcon::Exclamation, MsgButtons::YesNo, 2) !=
+    return msgBox(ctx.dialogs, question, MsgIcon::Exclamation, MsgButtons::YesNo, 2) !=
            MsgAnswer::No;
 }
 
@@ -26,7 +28,7 @@ const std::array<QString, 4> kEngineLines = {
 
 }  // namespace
 
-int modBusiestWeekdayPositions(const Workspace& ws) {
+int busiestWeekdayPositions(const Workspace& ws) {
     int busiest = 0;
     for (int w = 0; w < kWeekdays; ++w) {
         int positions = 0;
@@ -38,7 +40,7 @@ int modBusiestWeekdayPositions(const Workspace& ws) {
     return busiest;
 }
 
-bool modPrepareGenerate(Workspace& ws, Context& ctx, int listIndex) {
+bool prepareGenerate(Workspace& ws, Context& ctx, int listIndex) {
     if (ws.gScheduleGenerated == 1 &&
         !goOn(ctx, QStringLiteral("Generating a new schedule will erase the previous schedule.  "
                                   "Would you like to proceed?"))) {
@@ -46,7 +48,7 @@ bool modPrepareGenerate(Workspace& ws, Context& ctx, int listIndex) {
     }
     ws.gCalendarAgentIndex = 0;
     // A table without positions leaves the ratio of the last command.
-    if (const int busiest = modBusiestWeekdayPositions(ws); busiest > 0) {
+    if (const int busiest = busiestWeekdayPositions(ws); busiest > 0) {
         ws.gAgentRatio = static_cast<double>(ws.gAgentCount) / busiest;
     }
     const bool twiceADay = ws.gAgentRatio < 1;
@@ -81,7 +83,7 @@ bool modPrepareGenerate(Workspace& ws, Context& ctx, int listIndex) {
     return true;
 }
 
-void modRunEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress,
+void runEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress,
                   std::optional<int> serialCursor) {
     std::fill(ws.gSchedule.begin(), ws.gSchedule.end(), QString());
     switch (ws.gEngine) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ enum class ShiftOrder { Upward, Downward };
 // order, the slots of each shift always upward. Holidays are the caller's business. The
 // table is kept inside gSchedule's bounds, so a damaged one cannot reach past it.
 template <typename Visit>
-void modForEachPosition(const Workspace& ws, int day, ShiftOrder order, Visit&& visit) {
+void forEachPosition(const Workspace& ws, int day, ShiftOrder order, Visit&& visit) {
     const int weekday = ws.weekdayOf(day);
     const int shifts = std::clamp(ws.gShiftCount[weekday], 0, kMaxShift);
     for (int i = 1; i <= shifts; ++i) {
@@ -27,9 +27,9 @@ void modForEachPosition(const Workspace& ws, int day, ShiftOrder order, Visit&& 
 
 // True when a position of the day holds the text, filled or not: an empty text is found
 // in any empty position.
-inline bool modDayHolds(const Workspace& ws, int day, const QString& text) {
+inline bool dayHolds(const Workspace& ws, int day, const QString& text) {
     bool found = false;
-    modForEachPosition(ws, day, ShiftOrder::Upward, [&](int shift, int slot) {
+    forEachPosition(ws, day, ShiftOrder::Upward, [&](int shift, int slot) {
         found = found || ws.schedule(day, shift, slot) == text;
     });
     return found;
@@ -37,7 +37,7 @@ inline bool modDayHolds(const Workspace& ws, int day, const QString& text) {
 
 // Whether the agent may not take a position of the day and shift. A number outside the
 // agent list, or a day outside the vacation table, reads as nothing set.
-inline bool modAgentBarred(const Workspace& ws, int agent, int day, int shift) {
+inline bool agentBarred(const Workspace& ws, int agent, int day, int shift) {
     if (agent < 0 || agent > ws.gAgentCount) {
         return false;
     }

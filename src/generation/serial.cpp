@@ -1,9 +1,9 @@
 #include "generation/engines.h"
 
 #include "generation/positionwalk.h"
-#include "persistence/log.h"
-#include "shell/context.h"
-#include "workspace/workspace.h"
+#include "core/services/log.h"
+#include "core/services/context.h"
+#include "core/model/workspace.h"
 
 #include <utility>
 #include <vector>
@@ -37,7 +37,7 @@ void startRota(Workspace& ws, Context& ctx, const QString& engineLine, int curso
 void placeNext(Workspace& ws, int& cursor, int day, int shift, int slot) {
     for (int tries = 1;; ++tries) {
         cursor = cursor >= ws.gAgentCount ? 1 : cursor + 1;
-        if (tries > kTriesPerPosition || !modAgentBarred(ws, cursor, day, shift)) {
+        if (tries > kTriesPerPosition || !agentBarred(ws, cursor, day, shift)) {
             break;
         }
     }
@@ -45,7 +45,7 @@ void placeNext(Workspace& ws, int& cursor, int day, int shift, int slot) {
 }
 
 void placeDay(Workspace& ws, int& cursor, int day, ShiftOrder order) {
-    modForEachPosition(ws, day, order,
+    forEachPosition(ws, day, order,
                        [&](int shift, int slot) { placeNext(ws, cursor, day, shift, slot); });
 }
 

@@ -1,9 +1,9 @@
 #include "generation/engines.h"
 
 #include "generation/positionwalk.h"
-#include "persistence/log.h"
-#include "shell/context.h"
-#include "workspace/workspace.h"
+#include "core/services/log.h"
+#include "core/services/context.h"
+#include "core/model/workspace.h"
 
 #include <algorithm>
 #include <vector>
@@ -45,9 +45,9 @@ void modGenerateShuffled(Workspace& ws, Context& ctx, int& drawCounter) {
             const QString& key = ws.gAgentKey[agent];
             // The 1st looks back at day 0, which like a holiday holds nothing: the month
             // before is never looked at.
-            fits[agent] = !modAgentBarred(ws, agent, day, shift) &&
-                          !(sameDayRule && modDayHolds(ws, day, key)) &&
-                          !(adjacentDayRule && modDayHolds(ws, day - 1, key));
+            fits[agent] = !agentBarred(ws, agent, day, shift) &&
+                          !(sameDayRule && dayHolds(ws, day, key)) &&
+                          !(adjacentDayRule && dayHolds(ws, day - 1, key));
         }
         return fits[agent] == 1;
     };
@@ -58,7 +58,7 @@ void modGenerateShuffled(Workspace& ws, Context& ctx, int& drawCounter) {
         if (ws.gHoliday[day] == 1) {
             continue;
         }
-        modForEachPosition(ws, day, ShiftOrder::Upward, [&](int shift, int slot) {
+        forEachPosition(ws, day, ShiftOrder::Upward, [&](int shift, int slot) {
             ++position;
             int agent = 0;
             for (int tries = 1;; ++tries) {

@@ -1,8 +1,8 @@
 #include "generation/engines.h"
 
-#include "persistence/log.h"
-#include "shell/context.h"
-#include "workspace/workspace.h"
+#include "core/services/log.h"
+#include "core/services/context.h"
+#include "core/model/workspace.h"
 
 #include <QHash>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "persistence/profilefile.h"
 
-#include "persistence/textfile.h"
+#include "core/services/textfile.h"
 
 namespace {
 

@@ -1,10 +1,11 @@
 #include "persistence/storecheck.h"
 
-#include "persistence/log.h"
-#include "shell/context.h"
-#include "shell/dialogs.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "core/services/log.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/workspace.h"
 
 #include <QFileInfo>
 
@@ -14,7 +15,7 @@ void modMigrateOrCheckStore(Workspace& ws, Context& ctx) {
         return;
     }
     modStatus(ws, ctx, QStringLiteral("INI file not found at ") + ws.gConfigFile);
-    modMsgBox(ctx.dialogs,
+    msgBox(ctx.dialogs,
               QStringLiteral("The Desko for Windows configuration file, Desko40.ini, could "
                              "not be found in the program directory.  The program will "
                              "still run, but some configuration data may be lost."),

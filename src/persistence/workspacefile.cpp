@@ -1,15 +1,17 @@
 #include "persistence/workspacefile.h"
 
-#include "persistence/numbers.h"
+#include "core/model/numbers.h"
 #include "persistence/profileapi.h"
 #include "persistence/profilefile.h"
-#include "persistence/registrystore.h"
-#include "persistence/textfile.h"
-#include "shell/agentkeys.h"
-#include "shell/context.h"
-#include "shell/dialogs.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "core/services/registrystore.h"
+#include "core/services/textfile.h"
+#include "core/model/agentkeys.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <algorithm>
 #include <array>
@@ -301,7 +303,7 @@ void readTitlesAndSettings(Workspace& ws, const ProfileFile& file) {
     ws.gSavedYear = modReadProfileValue(file, kSettings, QStringLiteral("Current Year"));
     ws.gPrinterFormat = modReadProfileValue(file, kSettings, QStringLiteral("Printer Format"));
     const double engine =
-        modVal(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
+        leadingNumber(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
     ws.gEngine = roundToInt(engine).value_or(0);
 }
 
@@ -394,7 +396,7 @@ void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path) {
     ProfileFile file = ProfileFile::read(scheduleFile ? path : ws.gConfigFile);
     if (scheduleFile && !modReadProfileValue(file, kSettings, QStringLiteral("Version"))
                              .startsWith(QStringLiteral("4.0."))) {
-        modMsgBox(ctx.dialogs,
+        msgBox(ctx.dialogs,
                   QStringLiteral("The file you are attempting to open cannot be read by this "
                                  "version of the program.  Please open this DKO file using the "
                                  "version of Desko for Windows with which it was created."),
@@ -414,7 +416,7 @@ void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path) {
 
     readTitlesAndSettings(ws, file);
     if (scheduleFile) {
-        modTakeSavedMonth(ws);
+        takeSavedMonth(ws);
     }
     applyTitleDefaults(ws, file);
     applySettings(ws);
@@ -423,7 +425,7 @@ void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path) {
     }
 }
 
-void modTakeSavedMonth(Workspace& ws) {
+void takeSavedMonth(Workspace& ws) {
     const std::optional<int> month = wholeNumber(ws.gSavedMonth);
     if (month && *month >= 1 && *month <= 12) {
         ws.gCurrentMonth = *month;

@@ -18,4 +18,4 @@ void modLoadWorkspace(Workspace& ws, Context& ctx, const QString& path);
 
 // Makes the month saved in the file, gSavedMonth and gSavedYear, the current month and
 // computes its calendar. A saved value that is no month or year leaves the current one.
-void modTakeSavedMonth(Workspace& ws);
+void takeSavedMonth(Workspace& ws);

@@ -1,14 +1,8 @@
 #include "shell/session.h"
 
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
-#include <QCoreApplication>
 #include <QDir>
-
-QString modAppPath() {
-    const QString home = qEnvironmentVariable("DESKO_HOME");
-    return home.isEmpty() ? QCoreApplication::applicationDirPath() : home;
-}
 
 void modInitSession(Workspace& ws, const QString& appPath) {
     ws.gVersionMajor = DESKO_VERSION_MAJOR;

@@ -1,17 +1,18 @@
 #include "shell/startmonth.h"
 
-#include "persistence/log.h"
-#include "persistence/numbers.h"
-#include "shell/clock.h"
-#include "shell/context.h"
-#include "workspace/workspace.h"
+#include "core/services/log.h"
+#include "core/model/numbers.h"
+#include "core/services/clock.h"
+#include "core/services/context.h"
+#include "core/model/monthdata.h"
+#include "core/model/workspace.h"
 
 namespace {
 
 // A month's name and year as the log shows them; a saved month that is no month shows no
 // name.
 QString monthAndYear(const Workspace& ws, const QString& month, const QString& year) {
-    const int number = static_cast<int>(modVal(month));
+    const int number = static_cast<int>(leadingNumber(month));
     const QString name = number >= 1 && number <= 12 ? ws.gMonthNames[number] : QString();
     return name + QLatin1Char(' ') + year;
 }
@@ -37,28 +38,14 @@ void modStartMonth(Workspace& ws, Context& ctx) {
     modStatus(ws, ctx,
               QStringLiteral("Next month is ") + monthAndYear(ws, QString::number(ws.gCurrentMonth),
                                                               QString::number(ws.gCurrentYear)));
-    if (modVal(ws.gSavedMonth) == ws.gCurrentMonth && modVal(ws.gSavedYear) == ws.gCurrentYear) {
+    if (leadingNumber(ws.gSavedMonth) == ws.gCurrentMonth && leadingNumber(ws.gSavedYear) == ws.gCurrentYear) {
         return;
     }
     modStatus(ws, ctx,
               QStringLiteral("Month number has changed since program was last used--resetting "
                              "month-specific data"));
-    modEraseMonthData(ws);
+    eraseMonthData(ws);
     ws.gHasHolidays = 0;
     ws.gHasNotedDays = 0;
     ws.gHasVacations = 0;
-}
-
-void modEraseMonthData(Workspace& ws) {
-    ws.gVacation.assign(static_cast<std::size_t>(ws.gAgentCount) + 1, DayFlags{});
-    ws.gNotedText.fill(QString());
-    ws.gNoted.fill(0);
-    ws.gHolidayName.fill(QString());
-    ws.gHoliday.fill(0);
-    ws.gSchedule.assign(kScheduleCells, QString());
-    ws.gCalendarTitle.clear();
-    ws.gGridTitle.clear();
-    ws.gEmailSubject.clear();
-    ws.gEmailBody.clear();
-    ws.gOutlookSubject.clear();
 }

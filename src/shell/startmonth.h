@@ -7,7 +7,3 @@ struct Workspace;
 // file was saved for another month, that month's data are dropped; the weekly table, the
 // agents and their restrictions stay.
 void modStartMonth(Workspace& ws, Context& ctx);
-
-// Drops what belongs to one month: vacations, holidays, noted days, the schedule, and the
-// five texts named after the month. Restrictions, the weekly table and the agents stay.
-void modEraseMonthData(Workspace& ws);

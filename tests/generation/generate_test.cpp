@@ -1,10 +1,11 @@
 #include "generation/generate.h"
 #include "fakes.h"
-#include "persistence/textfile.h"
-#include "shell/agentkeys.h"
+#include "core/services/textfile.h"
+#include "core/model/agentkeys.h"
 #include "shell/session.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/workspace.h"
 
 #include <QTemporaryDir>
 
@@ -94,7 +95,7 @@ TEST(Generate, WarnsByTheRatioOfAgentsToTheBusiestDay) {
         ws.gGridTitle = QStringLiteral("Mine");
         office.s.dialogs.answers.assign(c.answers.begin(), c.answers.end());
 
-        EXPECT_EQ(modPrepareGenerate(ws, office.s.ctx, kEngineShuffled), c.goesOn);
+        EXPECT_EQ(prepareGenerate(ws, office.s.ctx, kEngineShuffled), c.goesOn);
 
         QStringList asked;
         for (const auto& shown : office.s.dialogs.shown) {
@@ -142,7 +143,7 @@ TEST(Generate, ChoosesTheEngineByItsListIndex) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.listIndex);
         Office office(10, 5);
-        EXPECT_TRUE(modPrepareGenerate(office.ws, office.s.ctx, c.listIndex));
+        EXPECT_TRUE(prepareGenerate(office.ws, office.s.ctx, c.listIndex));
         EXPECT_EQ(office.ws.gEngine, c.engine);
         EXPECT_TRUE(logged(office.log(), QString::fromUtf8(c.line)));
     }
@@ -161,7 +162,7 @@ TEST(Generate, RunsTheEngineOnAnErasedSchedule) {
         ws.schedule(0, 0, 0) = QStringLiteral("Old");
         ws.schedule(37, 6, 4) = QStringLiteral("Old");
         office.s.ctx.random.setState(99);
-        modRunEngine(ws, office.s.ctx);
+        runEngine(ws, office.s.ctx);
         EXPECT_EQ(ws.schedule(37, 6, 4), QString());
         EXPECT_EQ(ws.schedule(0, 0, 0), QString());
         // March 2027 begins on a Monday: the 3rd is its first Wednesday.
@@ -170,7 +171,7 @@ TEST(Generate, RunsTheEngineOnAnErasedSchedule) {
     }
     Office office(10, 5);
     office.ws.gEngine = kEngineHorizontal;
-    modRunEngine(office.ws, office.s.ctx, {}, 6);
+    runEngine(office.ws, office.s.ctx, {}, 6);
     EXPECT_EQ(office.ws.gBaseAgent, 6);
     EXPECT_EQ(office.ws.schedule(3, 1, 0), QStringLiteral("A7"));
 }

@@ -1,9 +1,9 @@
 #include "fakes.h"
-#include "generation/frmWholeCalendar.h"
-#include "shell/agentkeys.h"
-#include "shell/frmMain.h"
+#include "generation/forms/frmWholeCalendar.h"
+#include "core/model/agentkeys.h"
+#include "shell/forms/frmMain.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "fakes.h"
-#include "shell/agentkeys.h"
-#include "workspace/workspace.h"
+#include "core/model/agentkeys.h"
+#include "core/model/workspace.h"
 
 #include <QFile>
 #include <QString>

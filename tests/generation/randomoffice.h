@@ -1,7 +1,8 @@
 #pragma once
 
-#include "shell/agentkeys.h"
-#include "workspace/workspace.h"
+#include "core/model/agentkeys.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <QStringList>
 

@@ -1,4 +1,4 @@
-#include "generation/randomsequence.h"
+#include "core/services/randomsequence.h"
 
 #include <gtest/gtest.h>
 
@@ -33,15 +33,13 @@ TEST(RandomSequence, SeedsOnlyFromTheStateRange) {
                  {"-1", {}},    {"12x", {}},
                  {"", {}}};
     for (const auto& c : cases) {
-        EXPECT_EQ(modParseSeed(QString::fromUtf8(c.text)), c.seed) << c.text;
+        EXPECT_EQ(parseSeed(QString::fromUtf8(c.text)), c.seed) << c.text;
     }
 }
 
-TEST(RandomSequence, TheEnvironmentSeedWinsOverTheClock) {
+TEST(RandomSequence, AGivenSeedWinsOverTheClock) {
     const QDateTime noon(QDate(2026, 11, 23), QTime(12, 0));
-    qputenv("DESKO_SEED", "1234");
-    EXPECT_EQ(modStartingSeed(noon), 1234U);
-    qunsetenv("DESKO_SEED");
-    EXPECT_LT(modStartingSeed(noon), RandomSequence::kStates);
-    EXPECT_NE(modStartingSeed(noon), modStartingSeed(noon.addMSecs(1)));
+    EXPECT_EQ(startingSeed(noon, 1234U), 1234U);
+    EXPECT_LT(startingSeed(noon, std::nullopt), RandomSequence::kStates);
+    EXPECT_NE(startingSeed(noon, std::nullopt), startingSeed(noon.addMSecs(1), std::nullopt));
 }

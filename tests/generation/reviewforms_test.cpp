@@ -1,12 +1,12 @@
 #include "fakes.h"
 #include "generation/engines.h"
-#include "generation/frmIndividualDay.h"
-#include "generation/frmWholeCalendar.h"
-#include "persistence/textfile.h"
-#include "shell/agentkeys.h"
-#include "shell/frmMain.h"
+#include "generation/forms/frmIndividualDay.h"
+#include "generation/forms/frmWholeCalendar.h"
+#include "core/services/textfile.h"
+#include "core/model/agentkeys.h"
+#include "shell/forms/frmMain.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,9 +1,9 @@
 #include "fakes.h"
 #include "generation/engines.h"
 #include "handmadeoffice.h"
-#include "persistence/log.h"
+#include "core/services/log.h"
 #include "randomoffice.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QTemporaryDir>
 

@@ -4,7 +4,7 @@
 #include "handmadeoffice.h"
 #include "plainsmartrandom.h"
 #include "randomoffice.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QTemporaryDir>
 

@@ -1,7 +1,8 @@
 #include "fakes.h"
 #include "persistence/workspacefile.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <QDir>
 #include <QFile>

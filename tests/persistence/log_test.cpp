@@ -1,7 +1,7 @@
-#include "persistence/log.h"
+#include "core/services/log.h"
 
 #include "fakes.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "persistence/profilefile.h"
 #include "fakes.h"
 #include "persistence/profileapi.h"
-#include "persistence/textfile.h"
+#include "core/services/textfile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,8 +1,10 @@
 #include "persistence/workspacefile.h"
 #include "fakes.h"
-#include "persistence/textfile.h"
+#include "core/services/textfile.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/calendar.h"
+#include "core/model/monthdata.h"
+#include "core/model/workspace.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
-#include "shell/agentkeys.h"
+#include "core/model/agentkeys.h"
 #include "fakes.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QStringList>
 

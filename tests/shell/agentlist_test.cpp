@@ -1,6 +1,7 @@
-#include "shell/agentlist.h"
+#include "core/model/agentlist.h"
 #include "fakes.h"
-#include "workspace/workspace.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <gtest/gtest.h>
 

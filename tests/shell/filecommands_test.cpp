@@ -1,9 +1,10 @@
 #include "fakes.h"
-#include "persistence/textfile.h"
+#include "core/services/textfile.h"
 #include "persistence/workspacefile.h"
-#include "shell/frmMain.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "shell/forms/frmMain.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QCheckBox>

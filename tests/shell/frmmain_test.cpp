@@ -1,7 +1,7 @@
-#include "shell/frmMain.h"
+#include "shell/forms/frmMain.h"
 #include "fakes.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,8 +1,9 @@
 #include "fakes.h"
-#include "persistence/textfile.h"
-#include "shell/frmMain.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "core/services/textfile.h"
+#include "shell/forms/frmMain.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/workspace.h"
 
 #include <QLabel>
 #include <QScrollBar>

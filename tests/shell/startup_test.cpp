@@ -1,9 +1,10 @@
 #include "fakes.h"
-#include "persistence/textfile.h"
-#include "shell/frmMain.h"
-#include "shell/programstart.h"
-#include "shell/textrules.h"
-#include "workspace/workspace.h"
+#include "core/services/textfile.h"
+#include "shell/forms/frmMain.h"
+#include "shell/forms/programstart.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
+#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QFile>
@@ -33,7 +34,9 @@ struct Start {
     }
 
     frmMain* start(const QString& commandLine = QString()) {
-        run = modProgramStart(ws, s.ctx, home.path(), QStringLiteral("desko40"), commandLine, 0);
+        s.ctx.launch.home = home.path();
+        s.ctx.launch.splashMs = 0;
+        run = modProgramStart(ws, s.ctx, QStringLiteral("desko40"), commandLine);
         return run.window.get();
     }
 
@@ -113,9 +116,9 @@ TEST(Startup, ASecondInstanceIsRefusedAndTouchesNothing) {
     const QString ini = r.text("Desko40.ini");
 
     TestServices other;
+    other.ctx.launch.home = r.home.path();
     Workspace second;
-    EXPECT_FALSE(
-        modProgramStart(second, other.ctx, r.home.path(), QStringLiteral("desko40"), {}, 0).window);
+    EXPECT_FALSE(modProgramStart(second, other.ctx, QStringLiteral("desko40"), {}).window);
     ASSERT_EQ(other.dialogs.shown.size(), 1U);
     EXPECT_EQ(
         other.dialogs.shown[0].text,

@@ -1,4 +1,5 @@
-#include "shell/textrules.h"
+#include "core/model/textrules.h"
+#include "core/services/msgbox.h"
 #include "fakes.h"
 
 #include <gtest/gtest.h>

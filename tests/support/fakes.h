@@ -1,11 +1,12 @@
 #pragma once
 
-#include "persistence/registrystore.h"
-#include "shell/clock.h"
-#include "shell/context.h"
-#include "shell/dialogs.h"
+#include "core/services/registrystore.h"
+#include "core/services/clock.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
 #include "shell/session.h"
-#include "workspace/workspace.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 
 #include <QDateTime>
 #include <QFile>

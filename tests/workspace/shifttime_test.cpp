@@ -1,4 +1,4 @@
-#include "workspace/shifttime.h"
+#include "core/model/shifttime.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,38 @@
+#include "shell/forms/application.h"
+
+#include "core/services/registrystore.h"
+#include "core/services/clock.h"
+#include "core/services/context.h"
+#include "shell/forms/frmMain.h"
+#include "shell/forms/programstart.h"
+#include "shell/forms/qtdialogs.h"
+#include "core/model/workspace.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLockFile>
+
+int runProgram(QApplication& app, const Launch& launch, const std::function<void()>& afterStart) {
+    // The program ends only by its own two roads, never by a window closing on its own.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    Workspace ws;
+    SystemClock clock;
+    QtDialogs dialogs;
+    FileRegistryStore registry(launch.home + QStringLiteral("/Desko40.reg"));
+    Context ctx{clock, dialogs, registry, {}, {}, launch};
+
+    // The command line is one text: a schedule file's name, blanks and all.
+    const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));
+    const QString programFile = QFileInfo(QApplication::applicationFilePath()).fileName();
+    const DeskoRun run = modProgramStart(ws, ctx, programFile, commandLine);
+    if (!run.window) {
+        return 0;
+    }
+    dialogs.setParent(run.window.get());
+    QObject::connect(run.window.get(), &frmMain::programEnds, &app, [] { QApplication::exit(0); });
+    if (afterStart) {
+        afterStart();
+    }
+    return QApplication::exec();
+}

@@ -1,0 +1,79 @@
+// The generate command of the main window: the questions and the engine run in the logic,
+// and the window shows the status frame, follows SmartRandom's progress with the bar and
+// the agent list, and hands the result to the review form.
+
+#include "generation/forms/frmWholeCalendar.h"
+#include "generation/generate.h"
+#include "core/services/context.h"
+#include "core/forms/formkit.h"
+#include "shell/forms/frmMain.h"
+#include "core/model/workspace.h"
+
+#include <QComboBox>
+#include <QFrame>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+
+void frmMain::connectGenerate() {
+    connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
+}
+
+void frmMain::cmdGenerate_Click() {
+    if (!prepareGenerate(ws_, ctx_, cmbGenerate->currentIndex())) {
+        return;
+    }
+    showHourglass();
+    showStatus(QStringLiteral("Generating a schedule . . ."));
+    // Once would do; the command has always entered the busy state three times.
+    modEnterBusyState();
+    modEnterBusyState();
+    modEnterBusyState();
+    showHourglass();
+    doEvents();
+
+    SmartRandomProgress progress;
+    const bool smartRandom = ws_.gEngine == kEngineSmartRandom;
+    if (smartRandom) {
+        labStatus->clear();
+        labStatusHigh->setText(QStringLiteral("Generating a schedule . . ."));
+        picStatus->show();
+        showProgress(0.0);
+        doEvents();
+        progress.placed = [this](int agent, double done) {
+            lstAgents->setCurrentRow(agent - 1);
+            showProgress(done);
+            doEvents();
+        };
+        progress.repairing = [this] {
+            labStatusHigh->setText(QStringLiteral("Fixing the schedule . . ."));
+            doEvents();
+            show();
+        };
+        progress.exchanged = [this](int agent) { lstAgents->setCurrentRow(agent - 1); };
+    }
+    runEngine(ws_, ctx_, progress);
+    if (smartRandom) {
+        doEvents();
+    }
+    showWholeCalendar();
+    if (smartRandom) {
+        picStatus->hide();
+    }
+}
+
+// The bar fills the sunken box from the left by the share of positions done.
+void frmMain::showProgress(double done) {
+    const int full = picStatus->width() - 2;
+    shpStatus->setGeometry(1, 1, static_cast<int>(full * done), picStatus->height() - 2);
+}
+
+void frmMain::showWholeCalendar() {
+    if (wholeCalendar_) {
+        wholeCalendar_->show();
+        return;
+    }
+    // Its load shows it in this window's place and hides this window.
+    wholeCalendar_ = new frmWholeCalendar(ws_, ctx_, *this);
+}
