@@ -13,12 +13,12 @@
 // W1 and W2 as the yardstick of the shipped one.
 
 #include "benchservices.h"
-#include "generation/engines.h"
-#include "generation/generate.h"
-#include "plainsmartrandom.h"
 #include "core/model/agentkeys.h"
 #include "core/model/calendar.h"
 #include "core/model/workspace.h"
+#include "generation/engines.h"
+#include "generation/generate.h"
+#include "plainsmartrandom.h"
 
 #include <QString>
 #include <QTemporaryDir>

@@ -10,12 +10,12 @@
 // [Schedule] (564 rows for January 2027) fit and are read whole.
 
 #include "benchservices.h"
-#include "persistence/workspacefile.h"
 #include "core/model/agentkeys.h"
-#include "shell/session.h"
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
 #include "core/model/workspace.h"
+#include "persistence/workspacefile.h"
+#include "shell/session.h"
 
 #include <QFileInfo>
 #include <QString>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/services/registrystore.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
+#include "core/services/registrystore.h"
 
 // Message boxes are answered OK at once and measure nothing: the work timed shows none, so
 // these only keep the services complete.

@@ -1,16 +1,17 @@
 #include "cli/commands.h"
 
-#include "generation/generate.h"
-#include "core/services/randomsequence.h"
-#include "core/services/registrystore.h"
-#include "persistence/workspacefile.h"
+#include "core/model/calendar.h"
+#include "core/model/shifttime.h"
+#include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
+#include "core/services/randomsequence.h"
+#include "core/services/registrystore.h"
+#include "generation/generate.h"
+#include "persistence/scheduleformat.h"
+#include "persistence/workspacefile.h"
 #include "shell/session.h"
-#include "core/model/shifttime.h"
-#include "core/model/calendar.h"
-#include "core/model/workspace.h"
 
 #include <QFileInfo>
 
@@ -34,17 +35,14 @@ public:
     // Every question is answered Yes: the command line said what to do.
     MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) override {
         err_ << "desko40-cli: " << subject_ << ": " << text << '\n';
-        shown_ = true;
         return buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel ? MsgAnswer::Yes
                                                                                   : MsgAnswer::OK;
     }
     double textWidth(const QString&) const override { return 0.0; }
-    bool shown() const { return shown_; }
 
 private:
     QTextStream& err_;
     QString subject_;
-    bool shown_ = false;
 };
 
 // A workspace as a run of the program has it before reading any file. The tool leaves no
@@ -113,14 +111,13 @@ int interpret(const QStringList& args, QTextStream& out, QTextStream& err) {
 // Loads a schedule file, or with asWorkingFile the file as the working file in its own
 // month. False when it was refused; the refusal has been told on err.
 bool load(Session& session, const QString& path, bool asWorkingFile) {
-    if (asWorkingFile) {
-        session.ws.gConfigFile = path;
-        modLoadWorkspace(session.ws, session.ctx, QString());
-        takeSavedMonth(session.ws);
-    } else {
-        modLoadWorkspace(session.ws, session.ctx, path);
+    if (!asWorkingFile) {
+        return modLoadWorkspace(session.ws, session.ctx, path);
     }
-    return !session.dialogs.shown();
+    session.ws.gConfigFile = path;
+    modLoadWorkspace(session.ws, session.ctx, QString());
+    takeSavedMonth(session.ws);
+    return true;
 }
 
 int resave(const QStringList& args, QTextStream& err, const Launch& launch) {

@@ -1,12 +1,12 @@
 #include "generation/generate.h"
 
-#include "core/services/log.h"
+#include "core/model/monthdata.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
-#include "core/model/textrules.h"
+#include "core/services/log.h"
 #include "core/services/msgbox.h"
-#include "core/model/monthdata.h"
-#include "core/model/workspace.h"
 
 #include <algorithm>
 #include <array>
@@ -84,7 +84,7 @@ bool prepareGenerate(Workspace& ws, Context& ctx, int listIndex) {
 }
 
 void runEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress,
-                  std::optional<int> serialCursor) {
+               std::optional<int> serialCursor) {
     std::fill(ws.gSchedule.begin(), ws.gSchedule.end(), QString());
     switch (ws.gEngine) {
         case kEngineSmartRandom:

@@ -27,4 +27,4 @@ bool prepareGenerate(Workspace& ws, Context& ctx, int listIndex);
 // Erases the schedule and runs the engine of gEngine. A serial engine starts after the
 // agent drawn at random, or after serialCursor when one is given.
 void runEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress = {},
-                  std::optional<int> serialCursor = std::nullopt);
+               std::optional<int> serialCursor = std::nullopt);

@@ -1,9 +1,9 @@
 #include "generation/engines.h"
 
-#include "generation/positionwalk.h"
-#include "core/services/log.h"
-#include "core/services/context.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
+#include "generation/positionwalk.h"
 
 #include <utility>
 #include <vector>
@@ -46,7 +46,7 @@ void placeNext(Workspace& ws, int& cursor, int day, int shift, int slot) {
 
 void placeDay(Workspace& ws, int& cursor, int day, ShiftOrder order) {
     forEachPosition(ws, day, order,
-                       [&](int shift, int slot) { placeNext(ws, cursor, day, shift, slot); });
+                    [&](int shift, int slot) { placeNext(ws, cursor, day, shift, slot); });
 }
 
 // The month day by day, holidays left out, and weekends too when they have been served.

@@ -1,9 +1,9 @@
 #include "generation/engines.h"
 
-#include "generation/positionwalk.h"
-#include "core/services/log.h"
-#include "core/services/context.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
+#include "generation/positionwalk.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "generation/engines.h"
 
-#include "core/services/log.h"
-#include "core/services/context.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
 
 #include <QHash>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "persistence/profileapi.h"
 
-#include "persistence/profilefile.h"
 #include "core/services/textfile.h"
+#include "persistence/profilefile.h"
 
 #include <QFile>
 

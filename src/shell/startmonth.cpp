@@ -1,11 +1,11 @@
 #include "shell/startmonth.h"
 
-#include "core/services/log.h"
+#include "core/model/monthdata.h"
 #include "core/model/numbers.h"
+#include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
-#include "core/model/monthdata.h"
-#include "core/model/workspace.h"
+#include "core/services/log.h"
 
 namespace {
 
@@ -38,7 +38,8 @@ void modStartMonth(Workspace& ws, Context& ctx) {
     modStatus(ws, ctx,
               QStringLiteral("Next month is ") + monthAndYear(ws, QString::number(ws.gCurrentMonth),
                                                               QString::number(ws.gCurrentYear)));
-    if (leadingNumber(ws.gSavedMonth) == ws.gCurrentMonth && leadingNumber(ws.gSavedYear) == ws.gCurrentYear) {
+    if (leadingNumber(ws.gSavedMonth) == ws.gCurrentMonth &&
+        leadingNumber(ws.gSavedYear) == ws.gCurrentYear) {
         return;
     }
     modStatus(ws, ctx,

@@ -1,11 +1,11 @@
 #include "generation/generate.h"
-#include "fakes.h"
-#include "core/services/textfile.h"
 #include "core/model/agentkeys.h"
-#include "shell/session.h"
 #include "core/model/textrules.h"
-#include "core/services/msgbox.h"
 #include "core/model/workspace.h"
+#include "core/services/msgbox.h"
+#include "core/services/textfile.h"
+#include "fakes.h"
+#include "shell/session.h"
 
 #include <QTemporaryDir>
 

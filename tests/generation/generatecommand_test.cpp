@@ -1,9 +1,9 @@
+#include "core/model/agentkeys.h"
+#include "core/model/workspace.h"
 #include "fakes.h"
 #include "generation/forms/frmWholeCalendar.h"
-#include "core/model/agentkeys.h"
 #include "shell/forms/frmMain.h"
 #include "shell/session.h"
-#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "fakes.h"
 #include "core/model/agentkeys.h"
 #include "core/model/workspace.h"
+#include "fakes.h"
 
 #include <QFile>
 #include <QString>

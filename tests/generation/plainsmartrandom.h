@@ -1,9 +1,9 @@
 #pragma once
 
-#include "generation/engines.h"
-#include "core/services/log.h"
-#include "core/services/context.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
+#include "generation/engines.h"
 
 #include <QString>
 

@@ -1,12 +1,12 @@
+#include "core/model/agentkeys.h"
+#include "core/model/workspace.h"
+#include "core/services/textfile.h"
 #include "fakes.h"
 #include "generation/engines.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/forms/frmWholeCalendar.h"
-#include "core/services/textfile.h"
-#include "core/model/agentkeys.h"
 #include "shell/forms/frmMain.h"
 #include "shell/session.h"
-#include "core/model/workspace.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,9 +1,9 @@
+#include "core/model/workspace.h"
+#include "core/services/log.h"
 #include "fakes.h"
 #include "generation/engines.h"
 #include "handmadeoffice.h"
-#include "core/services/log.h"
 #include "randomoffice.h"
-#include "core/model/workspace.h"
 
 #include <QTemporaryDir>
 

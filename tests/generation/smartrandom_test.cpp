@@ -1,10 +1,10 @@
 #include "generation/engines.h"
 
+#include "core/model/workspace.h"
 #include "fakes.h"
 #include "handmadeoffice.h"
 #include "plainsmartrandom.h"
 #include "randomoffice.h"
-#include "core/model/workspace.h"
 
 #include <QTemporaryDir>
 

@@ -1,8 +1,8 @@
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 #include "fakes.h"
 #include "persistence/workspacefile.h"
 #include "shell/session.h"
-#include "core/model/calendar.h"
-#include "core/model/workspace.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "core/services/log.h"
 
-#include "fakes.h"
 #include "core/model/workspace.h"
+#include "fakes.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "persistence/profilefile.h"
+#include "core/services/textfile.h"
 #include "fakes.h"
 #include "persistence/profileapi.h"
-#include "core/services/textfile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,10 +1,10 @@
 #include "persistence/workspacefile.h"
-#include "fakes.h"
-#include "core/services/textfile.h"
-#include "shell/session.h"
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
 #include "core/model/workspace.h"
+#include "core/services/textfile.h"
+#include "fakes.h"
+#include "shell/session.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
-#include "fakes.h"
-#include "core/services/textfile.h"
-#include "shell/forms/frmMain.h"
 #include "core/model/textrules.h"
-#include "core/services/msgbox.h"
 #include "core/model/workspace.h"
+#include "core/services/msgbox.h"
+#include "core/services/textfile.h"
+#include "fakes.h"
+#include "shell/forms/frmMain.h"
 
 #include <QComboBox>
 #include <QGroupBox>

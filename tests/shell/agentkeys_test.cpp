@@ -1,6 +1,6 @@
 #include "core/model/agentkeys.h"
-#include "fakes.h"
 #include "core/model/workspace.h"
+#include "fakes.h"
 
 #include <QStringList>
 

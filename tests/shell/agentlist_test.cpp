@@ -1,7 +1,7 @@
 #include "core/model/agentlist.h"
-#include "fakes.h"
 #include "core/model/calendar.h"
 #include "core/model/workspace.h"
+#include "fakes.h"
 
 #include <gtest/gtest.h>
 

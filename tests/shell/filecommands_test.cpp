@@ -1,10 +1,10 @@
-#include "fakes.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
+#include "core/services/msgbox.h"
 #include "core/services/textfile.h"
+#include "fakes.h"
 #include "persistence/workspacefile.h"
 #include "shell/forms/frmMain.h"
-#include "core/model/textrules.h"
-#include "core/services/msgbox.h"
-#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QCheckBox>

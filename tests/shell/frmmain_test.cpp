@@ -1,7 +1,7 @@
 #include "shell/forms/frmMain.h"
+#include "core/model/workspace.h"
 #include "fakes.h"
 #include "shell/session.h"
-#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QApplication>

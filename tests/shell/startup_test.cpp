@@ -1,10 +1,10 @@
-#include "fakes.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
+#include "core/services/msgbox.h"
 #include "core/services/textfile.h"
+#include "fakes.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
-#include "core/model/textrules.h"
-#include "core/services/msgbox.h"
-#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QFile>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "core/services/registrystore.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
+#include "core/services/registrystore.h"
 #include "shell/session.h"
-#include "core/model/calendar.h"
-#include "core/model/workspace.h"
 
 #include <QDateTime>
 #include <QFile>

@@ -1,6 +1,6 @@
+#include "core/model/workspace.h"
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
-#include "core/model/workspace.h"
 
 #include <QDate>
 

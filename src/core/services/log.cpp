@@ -1,10 +1,10 @@
 #include "core/services/log.h"
 
-#include "core/services/textfile.h"
-#include "core/services/clock.h"
-#include "core/services/context.h"
 #include "core/model/textrules.h"
 #include "core/model/workspace.h"
+#include "core/services/clock.h"
+#include "core/services/context.h"
+#include "core/services/textfile.h"
 
 #include <QFile>
 #include <QStringList>

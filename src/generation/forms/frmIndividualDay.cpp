@@ -1,10 +1,10 @@
 #include "generation/forms/frmIndividualDay.h"
 
-#include "generation/forms/frmWholeCalendar.h"
-#include "core/services/log.h"
-#include "core/services/context.h"
 #include "core/forms/formkit.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
+#include "generation/forms/frmWholeCalendar.h"
 
 #include <QCloseEvent>
 #include <QComboBox>

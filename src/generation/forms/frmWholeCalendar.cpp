@@ -1,18 +1,18 @@
 #include "generation/forms/frmWholeCalendar.h"
 
+#include "core/forms/formkit.h"
 #include "core/model/daycaption.h"
+#include "core/model/monthdata.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/services/log.h"
+#include "core/services/msgbox.h"
 #include "generation/engines.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/generate.h"
-#include "core/services/log.h"
-#include "core/services/context.h"
-#include "core/model/monthdata.h"
-#include "core/services/dialogs.h"
-#include "core/forms/formkit.h"
 #include "shell/forms/frmMain.h"
-#include "core/model/textrules.h"
-#include "core/services/msgbox.h"
-#include "core/model/workspace.h"
 
 #include <QCloseEvent>
 #include <QComboBox>
@@ -246,9 +246,9 @@ void frmWholeCalendar::labDay_MouseDown(int index) {
     ws_.gSelectedDay = day;
     if (ws_.gHoliday[day] == 1) {
         msgBox(ctx_.dialogs,
-                  ws_.currentMonthName() + QLatin1Char(' ') + QString::number(day) +
-                      QStringLiteral(" is ") + ws_.gHolidayName[day] + QLatin1Char('.'),
-                  MsgIcon::Information, MsgButtons::OK);
+               ws_.currentMonthName() + QLatin1Char(' ') + QString::number(day) +
+                   QStringLiteral(" is ") + ws_.gHolidayName[day] + QLatin1Char('.'),
+               MsgIcon::Information, MsgButtons::OK);
         return;
     }
     showHourglass();

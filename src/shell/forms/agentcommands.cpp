@@ -3,16 +3,16 @@
 // edit. The array work itself is in agentlist.cpp; here are the boxes, the list and the
 // messages.
 
-#include "export/resolvename.h"
-#include "core/services/log.h"
+#include "core/forms/formkit.h"
 #include "core/model/agentlist.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
-#include "core/forms/formkit.h"
-#include "shell/forms/frmMain.h"
-#include "core/model/textrules.h"
+#include "core/services/log.h"
 #include "core/services/msgbox.h"
-#include "core/model/workspace.h"
+#include "export/resolvename.h"
+#include "shell/forms/frmMain.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -217,9 +217,9 @@ void frmMain::cmdOK_Click() {
         const auto at = static_cast<std::size_t>(agent);
         const QString names = fullName(ws_.gAgentFirst[at], ws_.gAgentLast[at]);
         msgBox(ctx_.dialogs,
-                  opening + agentArticle(ws_.gAgentFirst[at]) + QLatin1Char(' ') + names +
-                      QStringLiteral(".  Please enter a different name."),
-                  MsgIcon::Exclamation, MsgButtons::OK);
+               opening + agentArticle(ws_.gAgentFirst[at]) + QLatin1Char(' ') + names +
+                   QStringLiteral(".  Please enter a different name."),
+               MsgIcon::Exclamation, MsgButtons::OK);
         return names;
     };
 
@@ -295,10 +295,10 @@ void frmMain::cmdDelete_Click() {
     const QString names = fullName(ws_.gAgentFirst[agent], ws_.gAgentLast[agent]);
     const MsgAnswer answer =
         msgBox(ctx_.dialogs,
-                  QStringLiteral("Deleting an agent will erase any vacations and shift "
-                                 "restrictions.  Are you sure you want to delete ") +
-                      names + QLatin1Char('?'),
-                  MsgIcon::Question, MsgButtons::YesNo, 2);
+               QStringLiteral("Deleting an agent will erase any vacations and shift "
+                              "restrictions.  Are you sure you want to delete ") +
+                   names + QLatin1Char('?'),
+               MsgIcon::Question, MsgButtons::YesNo, 2);
     if (answer != MsgAnswer::Yes) {
         return;
     }

@@ -1,12 +1,12 @@
 #include "shell/forms/application.h"
 
-#include "core/services/registrystore.h"
+#include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
+#include "core/services/registrystore.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
 #include "shell/forms/qtdialogs.h"
-#include "core/model/workspace.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -1,12 +1,12 @@
-#include "core/services/log.h"
-#include "persistence/workspacefile.h"
-#include "core/model/agentkeys.h"
-#include "core/services/context.h"
-#include "core/model/monthdata.h"
 #include "core/forms/formkit.h"
-#include "shell/forms/frmMain.h"
+#include "core/model/agentkeys.h"
+#include "core/model/monthdata.h"
 #include "core/model/textrules.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
+#include "persistence/workspacefile.h"
+#include "shell/forms/frmMain.h"
 
 #include <QFileInfo>
 #include <QGroupBox>

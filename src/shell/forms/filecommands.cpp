@@ -3,18 +3,18 @@
 // Save As never writes it. Save As tells the commands that offer it on the way (New, Open
 // and the two roads out) whether it completed, by gSaveDone.
 
-#include "core/services/log.h"
-#include "persistence/workspacefile.h"
-#include "core/model/agentkeys.h"
-#include "core/services/context.h"
-#include "core/model/monthdata.h"
-#include "core/services/dialogs.h"
 #include "core/forms/formkit.h"
+#include "core/model/agentkeys.h"
+#include "core/model/monthdata.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/services/log.h"
+#include "core/services/msgbox.h"
+#include "persistence/workspacefile.h"
 #include "shell/forms/frmMain.h"
 #include "shell/startmonth.h"
-#include "core/model/textrules.h"
-#include "core/services/msgbox.h"
-#include "core/model/workspace.h"
 
 #include <QAction>
 #include <QGroupBox>
@@ -61,10 +61,10 @@ void frmMain::mnuFNew_Click() {
     if (ws_.gDirty == 1) {
         const MsgAnswer answer =
             msgBox(ctx_.dialogs,
-                      QStringLiteral("Creating a new schedule will erase all shift "
-                                     "constraints.  Do you want to save the current "
-                                     "configuration before creating a new schedule?"),
-                      MsgIcon::Exclamation, MsgButtons::YesNoCancel);
+                   QStringLiteral("Creating a new schedule will erase all shift "
+                                  "constraints.  Do you want to save the current "
+                                  "configuration before creating a new schedule?"),
+                   MsgIcon::Exclamation, MsgButtons::YesNoCancel);
         if (answer == MsgAnswer::Cancel) {
             return;
         }
@@ -99,9 +99,9 @@ void frmMain::mnuFOpen_Click() {
     if (ws_.gDirty == 1) {
         const MsgAnswer answer =
             msgBox(ctx_.dialogs,
-                      QStringLiteral("Do you want to save the current configuration before "
-                                     "opening a desko schedule?"),
-                      MsgIcon::Question, MsgButtons::YesNoCancel);
+                   QStringLiteral("Do you want to save the current configuration before "
+                                  "opening a desko schedule?"),
+                   MsgIcon::Question, MsgButtons::YesNoCancel);
         if (answer == MsgAnswer::Cancel) {
             return;
         }

@@ -1,14 +1,14 @@
 #include "shell/forms/frmMain.h"
 
-#include "generation/forms/frmWholeCalendar.h"
-#include "persistence/workspacefile.h"
+#include "core/forms/formkit.h"
 #include "core/model/agentkeys.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
-#include "core/forms/formkit.h"
-#include "core/model/textrules.h"
 #include "core/services/msgbox.h"
-#include "core/model/workspace.h"
+#include "generation/forms/frmWholeCalendar.h"
+#include "persistence/workspacefile.h"
 
 #include <QAction>
 #include <QApplication>
@@ -622,7 +622,7 @@ void frmMain::lstAgents_DblClick() {
 void frmMain::fraPrint_Click() {
     if (ws_.gScheduleGenerated == 0) {
         msgBox(ctx_.dialogs, QStringLiteral("You must generate a schedule before printing."),
-                  MsgIcon::Exclamation, MsgButtons::OK);
+               MsgIcon::Exclamation, MsgButtons::OK);
     }
 }
 

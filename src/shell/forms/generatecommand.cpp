@@ -2,12 +2,12 @@
 // and the window shows the status frame, follows SmartRandom's progress with the bar and
 // the agent list, and hands the result to the review form.
 
+#include "core/forms/formkit.h"
+#include "core/model/workspace.h"
+#include "core/services/context.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "generation/generate.h"
-#include "core/services/context.h"
-#include "core/forms/formkit.h"
 #include "shell/forms/frmMain.h"
-#include "core/model/workspace.h"
 
 #include <QComboBox>
 #include <QFrame>

@@ -3,17 +3,17 @@
 // drag of the thumb, or a step after a refused one) erases the month's data all the same
 // and leaves the month as it is.
 
-#include "core/services/log.h"
-#include "persistence/workspacefile.h"
-#include "core/services/context.h"
-#include "core/services/dialogs.h"
-#include "shell/forms/frmMain.h"
-#include "shell/startmonth.h"
-#include "core/model/textrules.h"
-#include "core/services/msgbox.h"
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
+#include "core/model/textrules.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/services/log.h"
+#include "core/services/msgbox.h"
+#include "persistence/workspacefile.h"
+#include "shell/forms/frmMain.h"
+#include "shell/startmonth.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -33,10 +33,10 @@ void frmMain::vscDate_Change() {
         ws_.gScheduleGenerated == 1) {
         const MsgAnswer answer =
             msgBox(ctx_.dialogs,
-                      QStringLiteral("Changing the date of the calendar will erase the "
-                                     "schedule, as well as all holidays, vacations, and "
-                                     "notes.  Do you want to proceed anyway?"),
-                      MsgIcon::Exclamation, MsgButtons::YesNo, 2);
+                   QStringLiteral("Changing the date of the calendar will erase the "
+                                  "schedule, as well as all holidays, vacations, and "
+                                  "notes.  Do you want to proceed anyway?"),
+                   MsgIcon::Exclamation, MsgButtons::YesNo, 2);
         // The bar keeps its new value and the last value stays: the next step is out of step.
         if (answer != MsgAnswer::Yes) {
             return;

@@ -1,22 +1,22 @@
 #include "shell/forms/programstart.h"
 
-#include "core/services/randomsequence.h"
-#include "core/services/log.h"
-#include "persistence/storecheck.h"
-#include "persistence/workspacefile.h"
+#include "core/forms/formkit.h"
 #include "core/model/agentkeys.h"
+#include "core/model/calendar.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
-#include "core/forms/formkit.h"
+#include "core/services/log.h"
+#include "core/services/msgbox.h"
+#include "core/services/randomsequence.h"
 #include "environment/forms/frmCredit.h"
+#include "persistence/storecheck.h"
+#include "persistence/workspacefile.h"
 #include "shell/forms/frmMain.h"
 #include "shell/session.h"
 #include "shell/startmonth.h"
-#include "core/model/textrules.h"
-#include "core/services/msgbox.h"
-#include "core/model/calendar.h"
-#include "core/model/workspace.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -46,9 +46,9 @@ DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& programFile
     run.instance = claimProgramDirectory(appPath, otherRunning);
     if (otherRunning) {
         msgBox(ctx.dialogs,
-                  QStringLiteral("You may run only one instance of Desko for Windows rev "
-                                 "4.0 at a time."),
-                  MsgIcon::Stop, MsgButtons::OK);
+               QStringLiteral("You may run only one instance of Desko for Windows rev "
+                              "4.0 at a time."),
+               MsgIcon::Stop, MsgButtons::OK);
         run.instance.reset();
         return run;
     }

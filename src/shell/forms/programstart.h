@@ -15,8 +15,8 @@ struct DeskoRun {
     std::unique_ptr<frmMain> window;
 };
 
-// Starts a run in the program directory the launch names: refuses a second instance there, shows the
-// splash, prepares the Workspace from the working file and the coming month, shows the main
+// Starts a run in the program directory the launch names: refuses a second instance there, shows
+// the splash, prepares the Workspace from the working file and the coming month, shows the main
 // window and opens a schedule file named on the command line. Gives no window when another
 // instance runs; the user has been told, and neither the log nor the working file was
 // touched.

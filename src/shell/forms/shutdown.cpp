@@ -3,14 +3,14 @@
 // log; File Exit asks without Cancel, writes the working file after, stays open when the
 // save was cancelled and leaves the log without its closing line.
 
-#include "core/services/log.h"
-#include "persistence/workspacefile.h"
+#include "core/model/textrules.h"
+#include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
-#include "shell/forms/frmMain.h"
-#include "core/model/textrules.h"
+#include "core/services/log.h"
 #include "core/services/msgbox.h"
-#include "core/model/workspace.h"
+#include "persistence/workspacefile.h"
+#include "shell/forms/frmMain.h"
 
 bool frmMain::Form_Unload() {
     modStatus(ws_, ctx_, QStringLiteral("Unloading the main form"));
@@ -19,9 +19,9 @@ bool frmMain::Form_Unload() {
     if (ws_.gDirty == 1) {
         const MsgAnswer answer =
             msgBox(ctx_.dialogs,
-                      QStringLiteral("The current desko schedule has not been saved.  Do you "
-                                     "want to save the changes?"),
-                      MsgIcon::Question, MsgButtons::YesNoCancel);
+                   QStringLiteral("The current desko schedule has not been saved.  Do you "
+                                  "want to save the changes?"),
+                   MsgIcon::Question, MsgButtons::YesNoCancel);
         if (answer == MsgAnswer::Cancel) {
             modStatus(ws_, ctx_, QStringLiteral("Cancelling unload"));
             return false;
@@ -41,9 +41,9 @@ void frmMain::mnuFExit_Click() {
     if (ws_.gDirty == 1) {
         const MsgAnswer answer =
             msgBox(ctx_.dialogs,
-                      QStringLiteral("The desko schedule has changed since you last saved the "
-                                     "configuration.  Do you want to save the changes?"),
-                      MsgIcon::Question, MsgButtons::YesNo);
+                   QStringLiteral("The desko schedule has changed since you last saved the "
+                                  "configuration.  Do you want to save the changes?"),
+                   MsgIcon::Question, MsgButtons::YesNo);
         // A Yes whose save did not complete keeps the program open.
         if (answer == MsgAnswer::Yes) {
             mnuFSaveAs_Click();

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "persistence/profileapi.h"
+
+#include <QString>
+
+class ProfileFile;
+struct Workspace;
+
+// The one text format of the working file and of schedule files, between the Workspace and
+// text. Nothing here touches a file: the callers read and write them.
+
+enum class FileKind {
+    Working,   // the working file: no version test, no schedule, the month left as it is
+    Schedule,  // a schedule file: this version's only, with its schedule and its own month
+};
+
+// The whole text of a file of the kind. Recomputes the four summary flags, which only rows
+// within the month's days set, and gPrinterFormat from the print boxes.
+QString scheduleFileText(Workspace& ws, FileKind kind);
+
+// What reading leaves to its caller.
+struct ReadResult {
+    // A schedule file of another version: nothing of the Workspace has changed.
+    bool refused = false;
+    // The [Titles] defaults that were missing and were filled in, under the keys they are
+    // written back with.
+    ProfileValues defaults;
+};
+
+// Reads a file's sections into the Workspace, as the format has always been read: rows by
+// running number or by key name, rows of the wrong field count and indices out of range
+// skipped, a month that is no month left as it was.
+ReadResult readScheduleFile(Workspace& ws, const ProfileFile& file, FileKind kind);
+
+// Makes the month saved in the file, gSavedMonth and gSavedYear, the current month and
+// computes its calendar. A saved value that is no month or year leaves the current one.
+void takeSavedMonth(Workspace& ws);
