@@ -13,9 +13,9 @@
 #include "core/model/agentkeys.h"
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
+#include "core/model/session.h"
 #include "core/model/workspace.h"
 #include "persistence/workspacefile.h"
-#include "shell/session.h"
 
 #include <QFileInfo>
 #include <QString>

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "core/model/calendar.h"
+#include "core/model/session.h"
 #include "core/model/shifttime.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
@@ -11,7 +12,7 @@
 #include "generation/generate.h"
 #include "persistence/scheduleformat.h"
 #include "persistence/workspacefile.h"
-#include "shell/session.h"
+#include "shell/filecommands.h"
 
 #include <QFileInfo>
 
@@ -46,13 +47,15 @@ private:
 };
 
 // A workspace as a run of the program has it before reading any file. The tool leaves no
-// trace on the machine, so the settings store lives only as long as the command.
+// trace on the machine: no log and no working file, and the settings store lives only as
+// long as the command.
 struct Session {
     Session(QTextStream& err, const QString& subject, const Launch& launch)
         : dialogs(err, subject), ctx{clock, dialogs, registry, {}, {}, launch} {
         modInitNameTables(ws);
         modInitSession(ws, launch.home);
         ws.gLogFile.clear();
+        ws.gConfigFile.clear();
     }
     Workspace ws;
     SystemClock clock;
@@ -108,16 +111,22 @@ int interpret(const QStringList& args, QTextStream& out, QTextStream& err) {
     return 0;
 }
 
-// Loads a schedule file, or with asWorkingFile the file as the working file in its own
+// Reads a schedule file, or with asWorkingFile the file as the working file in its own
 // month. False when it was refused; the refusal has been told on err.
-bool load(Session& session, const QString& path, bool asWorkingFile) {
+bool read(Session& session, const QString& path, bool asWorkingFile) {
     if (!asWorkingFile) {
         return modLoadWorkspace(session.ws, session.ctx, path);
     }
     session.ws.gConfigFile = path;
     modLoadWorkspace(session.ws, session.ctx, QString());
     takeSavedMonth(session.ws);
+    session.ws.gConfigFile.clear();
     return true;
+}
+
+// Opens a schedule file as the program's File Open does, or reads a working file.
+bool open(Session& session, const QString& path, bool asWorkingFile) {
+    return asWorkingFile ? read(session, path, true) : openSchedule(session.ws, session.ctx, path);
 }
 
 int resave(const QStringList& args, QTextStream& err, const Launch& launch) {
@@ -131,8 +140,9 @@ int resave(const QStringList& args, QTextStream& err, const Launch& launch) {
     if (!readable(in)) {
         return fail(err, in, QStringLiteral("cannot be read"));
     }
+    // A plain read and write of the format, with nothing of the program's opening.
     Session session(err, in, launch);
-    if (!load(session, in, working)) {
+    if (!read(session, in, working)) {
         return 1;
     }
     if (working) {
@@ -153,7 +163,7 @@ int keys(const QStringList& args, QTextStream& out, QTextStream& err, const Laun
         return fail(err, path, QStringLiteral("cannot be read"));
     }
     Session session(err, path, launch);
-    if (!load(session, path, false)) {
+    if (!open(session, path, false)) {
         return 1;
     }
     const Workspace& ws = session.ws;
@@ -219,7 +229,7 @@ int generate(const QStringList& args, QTextStream& err, const Launch& launch) {
         return fail(err, in, QStringLiteral("cannot be read"));
     }
     Session session(err, in, launch);
-    if (!load(session, in, options->working)) {
+    if (!open(session, in, options->working)) {
         return 1;
     }
     Workspace& ws = session.ws;

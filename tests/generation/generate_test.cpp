@@ -1,11 +1,11 @@
 #include "generation/generate.h"
 #include "core/model/agentkeys.h"
+#include "core/model/session.h"
 #include "core/model/textrules.h"
 #include "core/model/workspace.h"
 #include "core/services/msgbox.h"
 #include "core/services/textfile.h"
 #include "fakes.h"
-#include "shell/session.h"
 
 #include <QTemporaryDir>
 

@@ -1,9 +1,7 @@
 #include "core/model/workspace.h"
-#include "core/services/log.h"
 #include "fakes.h"
 #include "generation/engines.h"
-#include "handmadeoffice.h"
-#include "randomoffice.h"
+#include "offices.h"
 
 #include <QTemporaryDir>
 
@@ -20,126 +18,7 @@ using Engine = void (*)(Workspace&, Context&, int&);
 const Engine horizontal = modGenerateSerialHorizontal;
 const Engine mixed = modGenerateSerialMixed;
 
-// The rota written out plainly as its rules read, with nothing taken from the
-// engines, so that they can be held to it on many offices.
-struct PlainRota {
-    Workspace& ws;
-    Context& ctx;
-    int& c;
-
-    int days() const { return ws.gMonthDays[ws.gCurrentMonth]; }
-    int weekday(int d) const { return (d + 6 + ws.gFirstWeekday) % 7; }
-
-    void start(const QString& line) {
-        int base = c + 1;
-        if (base > ws.gAgentCount) {
-            base = 1;
-        }
-        modStatus(ws, ctx, line);
-        modStatus(ws, ctx,
-                  QStringLiteral("Base agent is ") + ws.gAgentFirst[base] + QStringLiteral(" ") +
-                      ws.gAgentLast[base]);
-        ws.gBaseAgent = c;
-    }
-
-    void place(int d, int s, int k) {
-        int tries = 0;
-    move:
-        c = c + 1;
-        tries = tries + 1;
-        if (c > ws.gAgentCount) {
-            c = 1;
-        }
-        if (tries > 150) {
-            goto write;
-        }
-        if (ws.gVacation[c][d] == 1 || ws.gRestriction[c][weekday(d)][s] == 1) {
-            goto move;
-        }
-    write:
-        ws.schedule(d, s, k) = ws.gAgentKey[c];
-    }
-
-    // The day's shifts upward, or downward, and the slots of each shift upward.
-    void day(int d, bool downward) {
-        const int w = weekday(d);
-        for (int i = 1; i <= ws.gShiftCount[w]; ++i) {
-            const int s = downward ? ws.gShiftCount[w] + 1 - i : i;
-            for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                place(d, s, k);
-            }
-        }
-    }
-
-    void horizontal() {
-        start(QStringLiteral("Generating a schedule using the Serial Horizontal engine"));
-        for (int d = 1; d <= days(); ++d) {
-            if (ws.gHoliday[d] != 1) {
-                day(d, false);
-            }
-        }
-    }
-
-    void mixed() {
-        start(QStringLiteral("Generating a schedule using the Serial Mixed engine"));
-        for (const int w : {0, 6}) {
-            int f = w + 1 - ws.gFirstWeekday;
-            if (f < 1) {
-                f = f + 7;
-            }
-            int l = f + 28;
-            if (l > days()) {
-                l = l - 7;
-            }
-            // Sundays from f up to l, Saturdays from l down to f.
-            for (int i = 0; f + 7 * i <= l; ++i) {
-                const int d = w == 0 ? f + 7 * i : l - 7 * i;
-                if (ws.gHoliday[d] != 1) {
-                    day(d, w == 6);
-                }
-            }
-        }
-        for (int d = 1; d <= days(); ++d) {
-            if (weekday(d) != 0 && weekday(d) != 6 && ws.gHoliday[d] != 1) {
-                day(d, false);
-            }
-        }
-    }
-};
-
 }  // namespace
-
-TEST(SerialEngines, FollowThePlainRotaOnRandomOffices) {
-    QTemporaryDir home;
-    TestServices s;
-    int runs = 0;
-    for (std::uint32_t seed = 1; seed <= 300; ++seed) {
-        SCOPED_TRACE(seed);
-        Workspace office;
-        makeRandomOffice(office, seed);
-        handmade::fillWithOldSchedule(office);
-        handmade::loseLogLines(office, home);
-        for (const Engine engine : {horizontal, mixed}) {
-            for (int cursor = 0; cursor <= office.gAgentCount; ++cursor) {
-                Workspace shipped = office;
-                Workspace plain = office;
-                int shippedCursor = cursor;
-                int plainCursor = cursor;
-                s.ctx.random.setState(seed);
-                engine(shipped, s.ctx, shippedCursor);
-                ASSERT_EQ(s.ctx.random.state(), seed) << "a rota draws nothing";
-                PlainRota rota{plain, s.ctx, plainCursor};
-                engine == mixed ? rota.mixed() : rota.horizontal();
-                ASSERT_EQ(shipped.gSchedule, plain.gSchedule)
-                    << "mixed " << (engine == mixed) << " cursor " << cursor;
-                ASSERT_EQ(shippedCursor, plainCursor);
-                ASSERT_EQ(shipped.gBaseAgent, cursor);
-                ++runs;
-            }
-        }
-    }
-    EXPECT_GT(runs, 15000);
-}
 
 // With more agents than the month has positions, the agent a day gets tells when the day
 // was visited: the i-th day visited gets the i-th agent after the cursor.
@@ -171,9 +50,9 @@ TEST(SerialEngines, VisitTheDaysInTheirOrder) {
         SCOPED_TRACE(c.what);
         TestServices s;
         Workspace ws;
-        handmade::makeOffice(ws, c.year, c.month, kAgents);
-        handmade::loseLogLines(ws, home);
-        handmade::fillWithOldSchedule(ws);
+        makeOffice(ws, c.year, c.month, kAgents);
+        loseLogLines(ws, home);
+        fillWithOldSchedule(ws);
         std::vector<int> order = c.weekendsFirst;
         for (int d = 1; d <= ws.currentMonthDays(); ++d) {
             if (std::count(order.begin(), order.end(), d) == 0 &&
@@ -188,8 +67,7 @@ TEST(SerialEngines, VisitTheDaysInTheirOrder) {
         c.engine(ws, s.ctx, cursor);
 
         for (std::size_t i = 0; i < order.size(); ++i) {
-            EXPECT_EQ(handmade::agentIn(ws, order[i], 1, 0),
-                      (kCursor + static_cast<int>(i)) % kAgents + 1)
+            EXPECT_EQ(agentIn(ws, order[i], 1, 0), (kCursor + static_cast<int>(i)) % kAgents + 1)
                 << "day " << order[i];
         }
         EXPECT_EQ(cursor, (kCursor + static_cast<int>(order.size()) - 1) % kAgents + 1);
@@ -217,7 +95,7 @@ TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
         };
     };
     const auto restricted = [](Workspace& ws) { ws.gRestriction[3][0][1] = 1; };
-    const auto noPositions = [](Workspace& ws) { handmade::setTable(ws, 0, 1); };
+    const auto noPositions = [](Workspace& ws) { setTable(ws, 0, 1); };
     const Case cases[] = {
         {"base agent away on the 1st", horizontal, 5, 0, away(1, 1, 1), {2, 3, 4, 5, 1}, 1},
         {"agent 3 restricted on Sundays", horizontal, 5, 2, restricted, {4, 5, 1, 2, 3}, 3},
@@ -234,8 +112,8 @@ TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
         QTemporaryDir home;
         TestServices s;
         Workspace ws;
-        handmade::makeOffice(ws, 2023, 1, c.agents, home.path());
-        handmade::fillWithOldSchedule(ws);
+        makeOffice(ws, 2023, 1, c.agents, home.path());
+        fillWithOldSchedule(ws);
         if (c.setUp) {
             c.setUp(ws);
         }
@@ -243,10 +121,10 @@ TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
         c.engine(ws, s.ctx, cursor);
         std::vector<int> got;
         for (int d = 1; d <= static_cast<int>(c.firstDays.size()); ++d) {
-            got.push_back(handmade::agentIn(ws, d, 1, 0));
+            got.push_back(agentIn(ws, d, 1, 0));
         }
         EXPECT_EQ(got, c.firstDays);
-        EXPECT_EQ(handmade::logText(ws),
+        EXPECT_EQ(logText(ws),
                   std::string("[09:14:03]     Generating a schedule using the Serial ") +
                       (c.engine == mixed ? "Mixed" : "Horizontal") +
                       " engine\r\n[09:14:03]     Base agent is " +
@@ -261,9 +139,9 @@ TEST(SerialEngines, MixedWalksSaturdayShiftsDownwardAndTheirSlotsUpward) {
     QTemporaryDir home;
     TestServices s;
     Workspace ws;
-    handmade::makeOffice(ws, 2023, 1, 40);
-    handmade::loseLogLines(ws, home);
-    handmade::setTable(ws, 0, 1);
+    makeOffice(ws, 2023, 1, 40);
+    loseLogLines(ws, home);
+    setTable(ws, 0, 1);
     ws.gShiftCount[0] = 2;
     ws.gShiftAgents[0] = {0, 0, 1};
     ws.gShiftCount[6] = 3;
@@ -277,8 +155,7 @@ TEST(SerialEngines, MixedWalksSaturdayShiftsDownwardAndTheirSlotsUpward) {
     const int agents[] = {1, 2, 3, 16, 17, 18, 19, 20, 21, 22};
     for (int i = 0; i < 10; ++i) {
         const auto [day, shift, slot] = cells[i];
-        EXPECT_EQ(handmade::agentIn(ws, day, shift, slot), agents[i])
-            << day << "/" << shift << "/" << slot;
+        EXPECT_EQ(agentIn(ws, day, shift, slot), agents[i]) << day << "/" << shift << "/" << slot;
     }
     EXPECT_EQ(cursor, 39);  // 15 Sunday and 24 Saturday positions
 }

@@ -2,9 +2,7 @@
 
 #include "core/model/workspace.h"
 #include "fakes.h"
-#include "handmadeoffice.h"
-#include "plainsmartrandom.h"
-#include "randomoffice.h"
+#include "offices.h"
 
 #include <QTemporaryDir>
 
@@ -13,7 +11,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
-#include <random>
 #include <set>
 #include <vector>
 
@@ -21,21 +18,22 @@ namespace {
 
 constexpr std::uint32_t kState = 327680;
 
-using plain::isWeekend;
-using plain::weekdayOf;
+bool isWeekend(int weekday) {
+    return weekday == 0 || weekday == 6;
+}
 
 // January 2027, starting on a Friday, with shifts of the same number of agents, so many on
 // Saturdays and Sundays and so many on the other days.
-void makeOffice(Workspace& ws, int agents, int weekendShifts, int weekdayShifts,
-                int agentsPerShift = 1) {
-    handmade::makeOffice(ws, 2027, 1, agents);
-    handmade::setTable(ws, weekdayShifts, agentsPerShift, weekendShifts);
+void makeJanuary(Workspace& ws, int agents, int weekendShifts, int weekdayShifts,
+                 int agentsPerShift = 1) {
+    makeOffice(ws, 2027, 1, agents);
+    setTable(ws, weekdayShifts, agentsPerShift, weekendShifts);
 }
 
 // Calls visit(day, shift, slot) for every position of the month, in the order of the sweep.
 void forEachPosition(const Workspace& ws, const std::function<void(int, int, int)>& visit) {
     for (int d = 1; d <= ws.currentMonthDays(); ++d) {
-        const int w = weekdayOf(ws, d);
+        const int w = ws.weekdayOf(d);
         for (int s = 1; s <= ws.gShiftCount[w] && ws.gHoliday[d] != 1; ++s) {
             for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
                 visit(d, s, k);
@@ -48,8 +46,8 @@ void forEachPosition(const Workspace& ws, const std::function<void(int, int, int
 std::vector<int> weekendTallies(const Workspace& ws) {
     std::vector<int> tallies(static_cast<std::size_t>(ws.gAgentCount) + 1, 0);
     forEachPosition(ws, [&](int d, int s, int k) {
-        if (isWeekend(weekdayOf(ws, d))) {
-            ++tallies[handmade::agentIn(ws, d, s, k)];
+        if (isWeekend(ws.weekdayOf(d))) {
+            ++tallies[agentIn(ws, d, s, k)];
         }
     });
     return tallies;
@@ -71,41 +69,6 @@ void generate(Workspace& ws, const SmartRandomProgress& progress = {}) {
     modGenerateSmartRandom(ws, s.ctx, progress);
 }
 
-// The shipped engine and the plain one, which rescans the grid for every score, leave the
-// same grid, cell for cell, and the random sequence in the same state, over offices of every
-// shape. Some offices are bent further: an agent whose key is the empty text holds every
-// empty cell (day 0 and the repair's unused cell included), and a grid that was not erased
-// holds keys and stray texts everywhere, also in the days and shifts outside the month.
-TEST(SmartRandom, MatchesThePlainEngine) {
-    const QTemporaryDir dir;
-    for (std::uint32_t seed = 1; seed <= 400; ++seed) {
-        Workspace fast;
-        makeRandomOffice(fast, seed);
-        fast.gLogFile = dir.filePath(QStringLiteral("Desko40.log"));
-        std::mt19937 rng(seed);
-        const auto agents = static_cast<unsigned>(fast.gAgentCount);
-        if (seed % 4 == 1) {
-            fast.gAgentKey[1 + rng() % agents].clear();
-        }
-        if (seed % 4 == 2) {
-            for (QString& cell : fast.gSchedule) {
-                const unsigned pick = rng() % (agents + 2);
-                cell = pick <= agents ? fast.gAgentKey[pick] : QStringLiteral("Leave empty");
-            }
-        }
-        Workspace slow = fast;
-        TestServices s1;
-        TestServices s2;
-        const std::uint32_t state = seed * 2654435761U % RandomSequence::kStates;
-        s1.ctx.random.setState(state);
-        s2.ctx.random.setState(state);
-        modGenerateSmartRandom(fast, s1.ctx);
-        plain::generateSmartRandom(slow, s2.ctx);
-        ASSERT_EQ(fast.gSchedule, slow.gSchedule) << "seed " << seed;
-        ASSERT_EQ(s1.ctx.random.state(), s2.ctx.random.state()) << "seed " << seed;
-    }
-}
-
 // Over small offices of many shapes: where the sweep leaves weekend tallies more than one
 // apart, the repair brings them within one; where it leaves them within one, the repair
 // changes nothing at all.
@@ -116,7 +79,7 @@ TEST(SmartRandom, RepairEvensOutWeekendsAndLeavesEvenOnesAlone) {
         for (int weekendShifts = 1; weekendShifts <= 2; ++weekendShifts) {
             for (int weekdayShifts = 1; weekdayShifts <= 3; ++weekdayShifts) {
                 Workspace ws;
-                makeOffice(ws, agents, weekendShifts, weekdayShifts);
+                makeJanuary(ws, agents, weekendShifts, weekdayShifts);
                 Workspace swept;
                 SmartRandomProgress progress;
                 progress.repairing = [&] { swept = ws; };
@@ -155,7 +118,7 @@ TEST(SmartRandom, FillsEveryPositionWhateverTheConstraints) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Workspace ws;
-        makeOffice(ws, c.agents, c.weekendShifts, c.weekdayShifts, c.agentsPerShift);
+        makeJanuary(ws, c.agents, c.weekendShifts, c.weekdayShifts, c.agentsPerShift);
         for (int d = 1; d <= 31; ++d) {
             ws.gHoliday[d] = c.holidays ? 1 : 0;
             for (int a = 1; a <= c.agents && d == c.everybodyAway; ++a) {
@@ -171,8 +134,8 @@ TEST(SmartRandom, FillsEveryPositionWhateverTheConstraints) {
         std::vector<std::set<int>> agentsOf(32);
         std::vector<int> positionsOf(32, 0);
         forEachPosition(ws, [&](int d, int s, int k) {
-            EXPECT_NE(handmade::agentIn(ws, d, s, k), 0) << "day " << d;
-            agentsOf[d].insert(handmade::agentIn(ws, d, s, k));
+            EXPECT_NE(agentIn(ws, d, s, k), 0) << "day " << d;
+            agentsOf[d].insert(agentIn(ws, d, s, k));
             ++positionsOf[d];
         });
         for (int d = 1; d <= 31; ++d) {
@@ -194,10 +157,10 @@ TEST(SmartRandom, FillsEveryPositionWhateverTheConstraints) {
 TEST(SmartRandom, ReportsTheRunAndGivesUpTheRepairWhenNoExchangeIsAllowed) {
     const QTemporaryDir dir;
     Workspace ws;
-    makeOffice(ws, 2, 1, 2);
+    makeJanuary(ws, 2, 1, 2);
     ws.gShiftCount[0] = 0;  // Saturdays only
     for (int d = 1; d <= 31; ++d) {
-        ws.gVacation[2][d] = isWeekend(weekdayOf(ws, d)) ? 0 : 1;
+        ws.gVacation[2][d] = isWeekend(ws.weekdayOf(d)) ? 0 : 1;
     }
     ws.gHoliday[18] = 1;
     ws.schedule(0, 0, 0) = QStringLiteral("stray");
@@ -230,7 +193,7 @@ TEST(SmartRandom, ReportsTheRunAndGivesUpTheRepairWhenNoExchangeIsAllowed) {
     EXPECT_EQ(rounds, std::vector<int>(40, 2));
     swept[scheduleIndex(0, 0, 0)].clear();
     EXPECT_EQ(ws.gSchedule, swept);
-    EXPECT_EQ(handmade::logText(ws),
+    EXPECT_EQ(logText(ws),
               "[09:14:03]     Generating a schedule using the SmartRandom schedule\r\n");
 }
 

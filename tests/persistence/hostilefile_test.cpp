@@ -1,8 +1,8 @@
 #include "core/model/calendar.h"
+#include "core/model/session.h"
 #include "core/model/workspace.h"
 #include "fakes.h"
 #include "persistence/workspacefile.h"
-#include "shell/session.h"
 
 #include <QDir>
 #include <QFile>
@@ -71,8 +71,9 @@ struct Case {
 
 }  // namespace
 
-// Damaged and hostile files never crash or hang a load, never write out of bounds, and a
-// workspace loaded from one saves again.
+// Damaged and hostile files never crash or hang a load and never write out of bounds (the
+// sanitizer build watches that). What a load keeps of one is a workspace like any other: it
+// saves, and what it saves reads back with the same agents and weekly table.
 TEST(HostileFiles, LoadWithoutHarm) {
     const Case cases[] = {
         {"indices out of every range", badIndexRows,
@@ -105,12 +106,12 @@ TEST(HostileFiles, LoadWithoutHarm) {
              EXPECT_EQ(w.gShiftAgents[1][1], 4);
              EXPECT_EQ(w.gShiftAgents[1][2], 0);
          }},
-        {"a 100 MB file of junk lines and one huge value",
+        {"an 8 MB file of junk lines and one huge value",
          [] {
-             QByteArray text = "[Titles]\r\nCalendar Notes=" + QByteArray(20 << 20, 'n') + "\r\n";
+             QByteArray text = "[Titles]\r\nCalendar Notes=" + QByteArray(2 << 20, 'n') + "\r\n";
              const QByteArray junk = "this line means nothing to anybody at all\r\n";
-             text.reserve(105 << 20);
-             while (text.size() < (100 << 20)) {
+             text.reserve(9 << 20);
+             while (text.size() < (8 << 20)) {
                  text += junk;
              }
              return valid(text);
@@ -130,7 +131,7 @@ TEST(HostileFiles, LoadWithoutHarm) {
          },
          [](const Workspace& w) { EXPECT_EQ(w.gScheduleGenerated, 1); }},
         {"line ends of a single carriage return make one long line",
-         [] { return QByteArray("[Agents]\r1=A|a|\r[Settings]\rVersion=4.0.10\r"); },
+         [] { return valid("[Agents]\r1=A|a|\r2=B|b|\r[Titles]\r\n"); },
          [](const Workspace& w) { EXPECT_EQ(w.gAgentCount, 0); }},
     };
     QTemporaryDir dir;
@@ -146,9 +147,17 @@ TEST(HostileFiles, LoadWithoutHarm) {
         Workspace ws;
         modInitNameTables(ws);
         modInitSession(ws, dir.path());
-        modLoadWorkspace(ws, s.ctx, path);
+        EXPECT_TRUE(modLoadWorkspace(ws, s.ctx, path));
         c.check(ws);
-        EXPECT_TRUE(modSaveWorkspace(ws, s.ctx, dir.filePath(QStringLiteral("saved.dko"))));
+        const QString saved = dir.filePath(QStringLiteral("saved.dko"));
+        ASSERT_TRUE(modSaveWorkspace(ws, s.ctx, saved));
+        Workspace reread;
+        openMonth(reread, 2000, 1, dir.path());
+        ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, saved));
+        EXPECT_EQ(reread.gAgentCount, ws.gAgentCount);
+        EXPECT_EQ(reread.gShiftCount, ws.gShiftCount);
+        EXPECT_EQ(reread.gShiftAgents, ws.gShiftAgents);
+        EXPECT_TRUE(s.dialogs.shown.empty());
     }
 }
 

@@ -1,74 +1,55 @@
+#include "shell/filecommands.h"
+
+#include "core/model/session.h"
 #include "core/model/textrules.h"
 #include "core/model/workspace.h"
 #include "core/services/msgbox.h"
 #include "core/services/textfile.h"
 #include "fakes.h"
 #include "persistence/workspacefile.h"
-#include "shell/forms/frmMain.h"
+#include "recordingview.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
-#include <QLabel>
-#include <QListWidget>
-#include <QMenu>
-#include <QPushButton>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <optional>
-#include <vector>
-
 namespace {
-
-const QString kCaption = QStringLiteral("Desko for Windows rev 4.0 ");
 
 using Kind = ScriptedDialogs::FileKind;
 
+const QString kOpening = QStringLiteral("busy: Opening a desko schedule . . .");
+const QString kSaving = QStringLiteral("busy: Saving the desko schedule . . .");
+
 // The office of the expected files, opened from its schedule file before, in a program
-// directory of its own; the window is up.
+// directory of its own.
 struct Office {
     Office() {
         openMonth(ws, 2027, 2, home.path());
         modLoadWorkspace(ws, s.ctx, QStringLiteral(DESKO_GOLDEN_DIR "/office.dko"));
         ws.gScheduleTag = QStringLiteral(" [Earlier.dko]");
-        window = std::make_unique<frmMain>(ws, s.ctx, QStringLiteral("desko40"));
-        window->show();
     }
 
     QString path(const QString& name) const { return home.filePath(name); }
-    QString text(const QString& file) const { return readTextFile(file).value_or(QString()); }
-    QString log() const { return text(ws.gLogFile); }
-    bool busy() const { return !window->mnuFile->isEnabled() && !window->cmdAdd->isEnabled(); }
-
-    void expectBox(std::size_t index, const char* message, MsgIcon icon, MsgButtons buttons) {
-        ASSERT_LT(index, s.dialogs.shown.size());
-        EXPECT_EQ(s.dialogs.shown[index].text,
-                  modWrapMessage(QString::fromUtf8(message), s.dialogs));
-        EXPECT_EQ(s.dialogs.shown[index].icon, icon);
-        EXPECT_EQ(s.dialogs.shown[index].buttons, buttons);
-    }
 
     // The example office's schedule file, with print boxes and an engine of its own.
     QString exampleSchedule(const char* version = "4.0.10") const {
-        QString example = text(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"));
+        QString example = fileText(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"));
         example.replace(QStringLiteral("Printer Format=111000"),
-                        QStringLiteral("Printer Format=010201"));
+                        QStringLiteral("Printer Format=000111"));
         example.replace(QStringLiteral("Scheduling Engine=0"),
-                        QStringLiteral("Scheduling Engine=2"));
+                        QStringLiteral("Scheduling Engine=3"));
         example.replace(QStringLiteral("Version=4.0.10"),
                         QStringLiteral("Version=") + QString::fromUtf8(version));
         writeTextFile(path(QStringLiteral("chosen.dko")), example);
         return path(QStringLiteral("chosen.dko"));
     }
 
-    // The working file left behind holds no schedule and is one the next start reads, with
-    // the same agents, without a word.
+    // The working file left behind holds no schedule, and the next start reads it with the
+    // same agents, without a word.
     void expectValidWorkingFile() const {
-        EXPECT_FALSE(text(ws.gConfigFile).contains(QStringLiteral("[Schedule]")));
+        EXPECT_FALSE(fileText(ws.gConfigFile).contains(QStringLiteral("[Schedule]")));
         Workspace reread;
         TestServices services;
         openMonth(reread, 2027, 1, home.path());
@@ -80,7 +61,7 @@ struct Office {
     QTemporaryDir home;
     TestServices s;
     Workspace ws;
-    std::unique_ptr<frmMain> window;
+    RecordingView view;
 };
 
 void expectDialog(const ScriptedDialogs::FileShown& shown, Kind kind, const char* title,
@@ -95,66 +76,52 @@ void expectDialog(const ScriptedDialogs::FileShown& shown, Kind kind, const char
     EXPECT_EQ(shown.request.promptOverwrite, kind == Kind::Save);
 }
 
-// Opening the File menu offers Save As once the workspace holds a file or a change.
-TEST(FileCommands, SaveAsIsOfferedOnceTheWorkspaceHoldsAFileOrAChange) {
-    Office office;
-    for (const std::optional<int> dirty : {std::optional<int>(), std::optional<int>(0),
-                                           std::optional<int>(1), std::optional<int>()}) {
-        office.ws.gDirty = dirty;
-        office.window->mnuFile->popup(office.window->mapToGlobal(QPoint(0, 0)));
-        EXPECT_EQ(office.window->mnuFSaveAs->isEnabled(), dirty.has_value()) << dirty.value_or(-1);
-        office.window->mnuFile->hide();
-    }
-}
+}  // namespace
 
-// The name given, the one file written under it, and the caption that names it; a cancel
-// saves nothing and says so. The working file is left alone.
-TEST(FileCommands, SaveAsWritesTheScheduleUnderTheNameGiven) {
-    struct Case {
-        const char* given;    // null: the dialog is cancelled
+// The one file written under the name as typed, measured without its folder, and the caption
+// that names it; a cancel saves nothing and says so. The working file is left alone.
+TEST(FileCommands, SaveAsWritesTheScheduleUnderTheNameTyped) {
+    const struct {
+        const char* typed;    // null: the dialog is cancelled
         const char* written;  // the file on disk
         const char* tag;
-        bool relative;  // a bare name, as a dialog may hand back
+    } cases[] = {
+        {"MAY OFFICE", "MAY OFFICE.dko", " [May Office]"},
+        {"june.DKO", "june.DKO", " [June.dko]"},
+        {"plan.txt", "plan.txt.dko", " [Plan.txt]"},
+        {"front_desk-rota", "front_desk-rota.dko", " [Front_Desk-Rota]"},
+        {"abc", "abc", " [Abc]"},  // too short to hold an extension
+        {"abcd", "abcd.dko", " [Abcd]"},
+        {nullptr, nullptr, " [Earlier.dko]"},
     };
-    const Case cases[] = {
-        {"MAY OFFICE", "MAY OFFICE.dko", " [May Office]", false},
-        {"june.DKO", "june.DKO", " [June.dko]", false},
-        {"plan.txt", "plan.txt.dko", " [Plan.txt]", false},
-        {"front_desk-rota", "front_desk-rota.dko", " [Front_Desk-Rota]", false},
-        {"abc", "abc", " [Abc]", true},  // too short to hold an extension
-        {"abcd", "abcd.dko", " [Abcd]", true},
-        {nullptr, nullptr, " [Earlier.dko]", false},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.given ? c.given : "cancelled");
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed ? c.typed : "cancelled");
         Office office;
-        const QString given = QString::fromUtf8(c.given);
-        const QString cwd = QDir::currentPath();
-        QDir::setCurrent(office.home.path());
         office.ws.gDirty = 1;
         office.ws.gSaveDone = 0;
-        if (c.given) {
-            office.s.dialogs.fileAnswers.push_back(c.relative ? given : office.path(given));
+        if (c.typed) {
+            office.s.dialogs.fileAnswers.push_back(office.path(QString::fromUtf8(c.typed)));
         }
 
-        office.window->mnuFSaveAs->trigger();
-        QDir::setCurrent(cwd);
+        saveScheduleAs(office.ws, office.s.ctx, office.view);
 
         ASSERT_EQ(office.s.dialogs.filesShown.size(), 1U);
         expectDialog(office.s.dialogs.filesShown[0], Kind::Save, "Save desko schedule as...",
                      office.ws, "2027 February.dko");
         QStringList files = QDir(office.home.path()).entryList(QDir::Files);
         files.removeOne(QStringLiteral("Desko40.log"));
-        EXPECT_EQ(files, c.given ? QStringList{QString::fromUtf8(c.written)} : QStringList());
-        if (c.given) {
-            EXPECT_EQ(office.text(office.path(files.value(0))), golden("office.dko"));
+        EXPECT_EQ(files, c.typed ? QStringList{QString::fromUtf8(c.written)} : QStringList());
+        if (c.typed) {
+            EXPECT_EQ(fileText(office.path(files.value(0))), golden("office.dko"));
+            EXPECT_TRUE(logged(office.ws, QStringLiteral("Saving desko schedule ") +
+                                              modProperCase(office.path(files.value(0)))));
         }
-        EXPECT_EQ(office.window->windowTitle(), kCaption + QString::fromUtf8(c.tag));
-        EXPECT_EQ(office.ws.gDirty, c.given ? 0 : 1);
-        EXPECT_EQ(office.ws.gSaveDone, c.given ? 1 : 0);
-        EXPECT_EQ(office.log().contains(QStringLiteral("]     Saving desko schedule ")),
-                  c.given != nullptr);
-        EXPECT_FALSE(office.busy());
+        EXPECT_EQ(office.ws.gScheduleTag, QString::fromUtf8(c.tag));
+        EXPECT_EQ(office.ws.gDirty, c.typed ? 0 : 1);
+        EXPECT_EQ(office.ws.gSaveDone, c.typed ? 1 : 0);
+        const QStringList asked = c.typed ? QStringList{kSaving, QStringLiteral("normal")}
+                                          : QStringList{QStringLiteral("normal")};
+        EXPECT_EQ(office.view.asked, asked);
     }
 }
 
@@ -163,6 +130,11 @@ TEST(FileCommands, SaveAsWritesTheScheduleUnderTheNameGiven) {
 // weekly table, the fonts and the month, and the caption goes on naming the last file saved.
 // The open dialog here is cancelled, which leaves the workspace as it was.
 TEST(FileCommands, NewAndOpenOfferToSaveFirst) {
+    const QString newQuestion = QStringLiteral(
+        "Creating a new schedule will erase all shift constraints.  Do you want to save the "
+        "current configuration before creating a new schedule?");
+    const QString openQuestion = QStringLiteral(
+        "Do you want to save the current configuration before opening a desko schedule?");
     struct Case {
         bool isNew;
         std::optional<int> dirty;
@@ -201,20 +173,16 @@ TEST(FileCommands, NewAndOpenOfferToSaveFirst) {
             c.saveCompletes ? std::optional<QString>(office.path(QStringLiteral("saved first")))
                             : std::nullopt);
 
-        (c.isNew ? office.window->mnuFNew : office.window->mnuFOpen)->trigger();
+        (c.isNew ? newSchedule : openScheduleFile)(ws, office.s.ctx, office.view);
 
         const bool erased = c.isNew && c.answer != MsgAnswer::Cancel;
-        ASSERT_EQ(office.s.dialogs.shown.size(), c.answer ? 1U : 0U);
-        if (c.answer && c.isNew) {
-            office.expectBox(0,
-                             "Creating a new schedule will erase all shift constraints.  Do you "
-                             "want to save the current configuration before creating a new "
-                             "schedule?",
-                             MsgIcon::Exclamation, MsgButtons::YesNoCancel);
-        } else if (c.answer) {
-            office.expectBox(
-                0, "Do you want to save the current configuration before opening a desko schedule?",
-                MsgIcon::Question, MsgButtons::YesNoCancel);
+        EXPECT_EQ(office.s.dialogs.texts(),
+                  c.answer ? office.s.dialogs.wrapped({c.isNew ? newQuestion : openQuestion})
+                           : QStringList());
+        if (c.answer) {
+            EXPECT_EQ(office.s.dialogs.shown[0].icon,
+                      c.isNew ? MsgIcon::Exclamation : MsgIcon::Question);
+            EXPECT_EQ(office.s.dialogs.shown[0].buttons, MsgButtons::YesNoCancel);
         }
         std::vector<Kind> kinds;
         for (const auto& shown : office.s.dialogs.filesShown) {
@@ -222,10 +190,10 @@ TEST(FileCommands, NewAndOpenOfferToSaveFirst) {
         }
         EXPECT_EQ(kinds, c.dialogs);
         // What was saved is the schedule before the erasing.
-        EXPECT_EQ(office.text(office.path(QStringLiteral("saved first.dko")))
+        EXPECT_EQ(fileText(office.path(QStringLiteral("saved first.dko")))
                       .contains(QStringLiteral("\r\n[Schedule]\r\n1=1|1|0|Adams\r\n")),
                   c.saveCompletes);
-        EXPECT_EQ(office.log().contains(QStringLiteral("]     Erasing existing schedule\r\n")),
+        EXPECT_EQ(logged(ws, QStringLiteral("Erasing existing schedule")),
                   erased && c.answer != MsgAnswer::No);
         EXPECT_EQ(ws.schedule(1, 1, 0).isEmpty() && ws.gCalendarNotes.isEmpty() &&
                       ws.gOutlookBody.isEmpty() && ws.gScheduleGenerated == 0 &&
@@ -233,19 +201,19 @@ TEST(FileCommands, NewAndOpenOfferToSaveFirst) {
                       ws.gHasHolidays + ws.gHasNotedDays + ws.gHasVacations == 0,
                   erased);
         EXPECT_EQ(ws.gDirty, erased ? std::nullopt : std::optional<int>(c.saveCompletes ? 0 : 1));
-        EXPECT_EQ(office.text(ws.gConfigFile), erased ? erasedFile : QString());
-        EXPECT_EQ(office.window->windowTitle(),
-                  kCaption + (c.saveCompletes ? QStringLiteral(" [Saved First]")
-                                              : QStringLiteral(" [Earlier.dko]")));
-        EXPECT_FALSE(office.busy());
+        EXPECT_EQ(fileText(ws.gConfigFile), erased ? erasedFile : QString());
+        EXPECT_EQ(ws.gScheduleTag, c.saveCompletes ? QStringLiteral(" [Saved First]")
+                                                   : QStringLiteral(" [Earlier.dko]"));
+        EXPECT_EQ(office.view.asked.value(office.view.asked.size() - 1),
+                  c.answer == MsgAnswer::Cancel ? QString() : QStringLiteral("normal"));
     }
 }
 
-// Open reads the chosen file into the window and the working file, without its schedule.
+// Open reads the chosen file into the workspace and the working file, without its schedule.
 // Whatever the file holds, or if it is no file at all, the program goes on, the caption names
-// the file and the working file left is one the next start can read. A refused file leaves the
-// workspace as it was, which then counts as saved. The review takes over, with the window
-// busy, when the workspace ends with a schedule.
+// the file and the working file left is one the next start can read. A refused file leaves
+// the workspace as it was, which then counts as saved. The review takes over when the
+// workspace ends with a schedule.
 TEST(FileCommands, OpenSurvivesWhateverItIsGiven) {
     enum class Make { Example, Bytes, OtherVersion, Folder, Nothing };
     struct Case {
@@ -256,7 +224,7 @@ TEST(FileCommands, OpenSurvivesWhateverItIsGiven) {
         int generatedBefore;
     };
     QByteArray huge = "[Settings]\r\nVersion=4.0.10\r\nCurrent Month=1\r\n\r\n[Agents]\r\n";
-    for (int i = 1; huge.size() < 4 * 1024 * 1024; ++i) {
+    for (int i = 1; huge.size() < 2 * 1024 * 1024; ++i) {
         const QByteArray n = QByteArray::number(i);
         huge += n + "=Last" + n + "|First" + n + "|\r\n";
     }
@@ -297,7 +265,7 @@ TEST(FileCommands, OpenSurvivesWhateverItIsGiven) {
         office.s.dialogs.answers.push_back(MsgAnswer::No);
         office.s.dialogs.fileAnswers.push_back(name);
 
-        office.window->mnuFOpen->trigger();
+        openScheduleFile(office.ws, office.s.ctx, office.view);
 
         ASSERT_EQ(office.s.dialogs.filesShown.size(), 1U);
         expectDialog(office.s.dialogs.filesShown[0], Kind::Open, "Open desko schedule...",
@@ -305,39 +273,73 @@ TEST(FileCommands, OpenSurvivesWhateverItIsGiven) {
         ASSERT_EQ(office.s.dialogs.shown.size(), c.refused ? 2U : 1U);
         if (c.make == Make::Example) {
             EXPECT_EQ(office.ws.gAgentCount, 12);
-            EXPECT_TRUE(office.busy());
-            std::vector<Qt::CheckState> boxes;
-            for (const QCheckBox* box : office.window->chkPrint) {
-                boxes.push_back(box->checkState());
-            }
-            EXPECT_EQ(boxes, (std::vector<Qt::CheckState>{Qt::Unchecked, Qt::Checked, Qt::Unchecked,
-                                                          Qt::PartiallyChecked, Qt::Unchecked,
-                                                          Qt::Checked}));
-            EXPECT_EQ(office.window->cmbGenerate->currentIndex(), 2);
-            EXPECT_EQ(office.window->labStatus->text(),
-                      QStringLiteral("Opening a desko schedule . . ."));
-            EXPECT_TRUE(office.log().contains(QStringLiteral("]     Opening desko schedule ") +
-                                              modProperCase(name) + QStringLiteral("\r\n")));
-            EXPECT_TRUE(office.text(office.ws.gConfigFile)
-                            .contains(QStringLiteral("\r\nPrinter Format=010201\r\n")));
+            EXPECT_EQ(office.ws.chkPrint, (std::array<int, 6>{0, 0, 0, 1, 1, 1}));
+            EXPECT_EQ(office.ws.cmbGenerateListIndex, 3);
+            EXPECT_TRUE(
+                logged(office.ws, QStringLiteral("Opening desko schedule ") + modProperCase(name)));
+            EXPECT_TRUE(fileText(office.ws.gConfigFile)
+                            .contains(QStringLiteral("\r\nPrinter Format=000111\r\n")));
         }
         if (c.refused) {
-            office.expectBox(1,
-                             "The file you are attempting to open cannot be read by this version "
-                             "of the program.  Please open this DKO file using the version of "
-                             "Desko for Windows with which it was created.",
-                             MsgIcon::Stop, MsgButtons::OK);
-            EXPECT_EQ(office.text(office.ws.gConfigFile), golden("office.ini"));
+            EXPECT_EQ(office.s.dialogs.shown[1].text,
+                      modWrapMessage(QStringLiteral("The file you are attempting to open cannot "
+                                                    "be read by this version of the program.  "
+                                                    "Please open this DKO file using the version "
+                                                    "of Desko for Windows with which it was "
+                                                    "created."),
+                                     office.s.dialogs));
+            EXPECT_EQ(fileText(office.ws.gConfigFile), golden("office.ini"));
         }
         EXPECT_EQ(office.ws.gScheduleTag, QStringLiteral(" [Chosen.dko]"));
         EXPECT_EQ(office.ws.gDirty, 0);
-        EXPECT_EQ(office.window->lstAgents->count(), office.ws.gAgentCount);
-        EXPECT_EQ(office.busy(), office.ws.gScheduleGenerated == 1);
-        if (!office.busy()) {
-            EXPECT_EQ(office.window->windowTitle(), kCaption + QStringLiteral(" [Chosen.dko]"));
-        }
+        EXPECT_EQ(office.view.asked,
+                  (QStringList{kOpening, QStringLiteral("opened"),
+                               office.ws.gScheduleGenerated == 1 ? QStringLiteral("review")
+                                                                 : QStringLiteral("normal")}));
         office.expectValidWorkingFile();
     }
 }
 
-}  // namespace
+// Every road in reads the file the same way: the engine and the print boxes it holds come
+// along, and the window is told to show them. The command line always goes on to the review;
+// a hidden file passes the start's search but is not opened here, and leaves the window busy.
+TEST(FileCommands, EveryRoadInOpensTheSameWay) {
+    enum class Road { FileOpen, CommandLine, HiddenFile, MissingFile };
+    const struct {
+        Road road;
+        bool opens;
+        QStringList asked;
+    } cases[] = {
+        {Road::FileOpen, true, {kOpening, QStringLiteral("opened"), QStringLiteral("review")}},
+        {Road::CommandLine, true, {kOpening, QStringLiteral("opened"), QStringLiteral("review")}},
+        {Road::HiddenFile, false, {kOpening}},
+        {Road::MissingFile, false, {kOpening}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(static_cast<int>(c.road));
+        Office office;
+        QString path = office.exampleSchedule();
+        if (c.road == Road::HiddenFile) {
+            QFile::rename(path, office.path(QStringLiteral(".hidden.dko")));
+            path = office.path(QStringLiteral(".hidden.dko"));
+        } else if (c.road == Road::MissingFile) {
+            path = office.path(QStringLiteral("absent.dko"));
+        }
+        const QString given = path;
+        if (c.road == Road::FileOpen) {
+            office.s.dialogs.fileAnswers.push_back(path);
+            openScheduleFile(office.ws, office.s.ctx, office.view);
+        } else {
+            modOpenFromCommandLine(office.ws, office.s.ctx, office.view, path);
+        }
+        EXPECT_EQ(office.view.asked, c.asked);
+        EXPECT_EQ(office.ws.cmbGenerateListIndex, c.opens ? 3 : 2);
+        EXPECT_EQ(office.ws.chkPrint[3], c.opens ? 1 : 0);
+        EXPECT_EQ(fileText(office.ws.gConfigFile).contains(QStringLiteral("Printer Format=000111")),
+                  c.opens);
+        EXPECT_EQ(office.ws.gDirty, c.opens ? std::optional<int>(0) : std::nullopt);
+        EXPECT_EQ(logged(office.ws, QStringLiteral("Program started with command switch")),
+                  c.opens && c.road == Road::CommandLine);
+        EXPECT_EQ(path, c.opens && c.road == Road::CommandLine ? QStringLiteral("0") : given);
+    }
+}

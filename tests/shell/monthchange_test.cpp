@@ -1,28 +1,26 @@
-#include "core/model/textrules.h"
+#include "shell/monthchange.h"
+
 #include "core/model/workspace.h"
 #include "core/services/msgbox.h"
-#include "core/services/textfile.h"
 #include "fakes.h"
-#include "shell/forms/frmMain.h"
 
-#include <QLabel>
-#include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-// Steps of the month stepper: +1 is one step down (the month before), -1 one step up (the
-// month after); anything else is a drag of the thumb. Only a month with data (a holiday, a
-// vacation and a schedule) asks before it loses them, and the answers come in turn. After a No the
-// bar is out of step: the next step is a difference of 2, which erases but does not move the month.
+// The stepper's values in turn, from 0: +1 is one step down (the month before), -1 one step up
+// (the month after); anything else is a drag of the thumb. Only a month with data (a holiday,
+// a vacation and a schedule) asks before it loses them, and the answers come in turn. After a
+// No the bar is out of step: the next step is a difference of 2, which erases but does not
+// move the month.
 TEST(MonthChange, StepsTheMonthAndErasesItsData) {
     struct Case {
         const char* what;
         int month;
         int year;
-        std::vector<int> steps;
+        std::vector<int> values;
         std::vector<MsgAnswer> answers;
-        const char* end;  // the month and year shown afterwards
+        const char* end;  // the month and year afterwards
         bool erased;
     };
     const QString question = QStringLiteral(
@@ -33,10 +31,10 @@ TEST(MonthChange, StepsTheMonthAndErasesItsData) {
     const Case cases[] = {
         {"forward over December", 12, 2026, {-1}, {}, "January 2027", true},
         {"back over January", 1, 2027, {1}, {}, "December 2026", true},
-        {"two steps back", 3, 2027, {1, 1}, {}, "January 2027", true},
+        {"two steps back", 3, 2027, {1, 2}, {}, "January 2027", true},
         {"a Yes erases and steps", 5, 2027, {-1}, {yes}, "June 2027", true},
         {"a No keeps all", 5, 2027, {-1}, {no}, "May 2027", false},
-        {"a step after a No", 5, 2027, {-1, -1}, {no, yes}, "May 2027", true},
+        {"a step after a No", 5, 2027, {-1, -2}, {no, yes}, "May 2027", true},
         {"a drag", 5, 2027, {-7}, {}, "May 2027", true},
     };
     for (const Case& c : cases) {
@@ -58,38 +56,34 @@ TEST(MonthChange, StepsTheMonthAndErasesItsData) {
             ws.gCalendarTitle = QStringLiteral("Old title");
         }
         s.dialogs.answers.assign(c.answers.begin(), c.answers.end());
-        frmMain window(ws, s.ctx, QStringLiteral("desko40"));
-        window.show();
-        for (const int step : c.steps) {
-            window.vscDate->setValue(window.vscDate->value() + step);
+        bool changed = false;
+        for (const int value : c.values) {
+            changed = changeMonth(ws, s.ctx, value);
         }
 
+        EXPECT_EQ(changed, c.erased);
         const QString end = QString::fromUtf8(c.end);
         EXPECT_EQ(ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear), end);
-        EXPECT_EQ(window.labDate->text(), end);
         ASSERT_EQ(s.dialogs.shown.size(), c.answers.size());
         for (const ScriptedDialogs::Shown& box : s.dialogs.shown) {
             EXPECT_EQ(box.text, modWrapMessage(question, s.dialogs));
+            EXPECT_EQ(box.icon, MsgIcon::Exclamation);
             EXPECT_EQ(box.defaultButton, 2);
         }
         if (data) {
-            EXPECT_EQ(ws.gHoliday[4], c.erased ? 0 : 1);
-            EXPECT_EQ(ws.gVacation[1][9], c.erased ? 0 : 1);
+            EXPECT_EQ(ws.gHoliday[4] + ws.gVacation[1][9] + ws.gScheduleGenerated,
+                      c.erased ? 0 : 3);
             EXPECT_EQ(ws.schedule(2, 1, 0).isEmpty(), c.erased);
-            EXPECT_EQ(ws.gScheduleGenerated, c.erased ? 0 : 1);
             EXPECT_EQ(ws.gCalendarTitle.isEmpty(), c.erased);
         }
         // What outlives a month: restrictions and the Outlook body; the change flag stays.
         EXPECT_EQ(ws.gRestriction[1][2][1], 1);
         EXPECT_EQ(ws.gOutlookBody, QStringLiteral("kept"));
         EXPECT_FALSE(ws.gDirty.has_value());
-        const auto holds = [](const QString& file, const QString& line) {
-            return readTextFile(file).value_or(QString()).contains(line + QStringLiteral("\r\n"));
-        };
-        EXPECT_EQ(holds(ws.gConfigFile,
-                        QStringLiteral("\r\nCurrent Month=") + QString::number(ws.gCurrentMonth)),
+        EXPECT_EQ(fileText(ws.gConfigFile)
+                      .contains(QStringLiteral("\r\nCurrent Month=") +
+                                QString::number(ws.gCurrentMonth) + QStringLiteral("\r\n")),
                   c.erased);
-        EXPECT_EQ(holds(ws.gLogFile, QStringLiteral("]     Changing the present month to ") + end),
-                  c.erased);
+        EXPECT_EQ(logged(ws, QStringLiteral("Changing the present month to ") + end), c.erased);
     }
 }

@@ -1,40 +1,34 @@
 #pragma once
 
-#include "core/model/calendar.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
 #include "core/services/registrystore.h"
-#include "shell/session.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QStringList>
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <ostream>
+#include <vector>
 
 // Test failures print texts as text.
-inline void PrintTo(const QString& text, std::ostream* os) {
-    *os << '"' << text.toStdString() << '"';
-}
+void PrintTo(const QString& text, std::ostream* os);
 
 // A list of texts written as UTF-8 literals.
-inline QStringList texts(std::initializer_list<const char*> list) {
-    QStringList result;
-    for (const char* text : list) {
-        result.append(QString::fromUtf8(text));
-    }
-    return result;
-}
+QStringList texts(std::initializer_list<const char*> list);
 
 // The text of an expected file under tests/persistence/golden, CR LF and all.
-inline QString golden(const char* name) {
-    QFile file(QStringLiteral(DESKO_GOLDEN_DIR "/") + QString::fromUtf8(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
+QString golden(const char* name);
+
+// The whole text of a file, empty when there is none.
+QString fileText(const QString& path);
+
+// Whether the log holds the line, after its time stamp.
+bool logged(const Workspace& ws, const QString& line);
 
 // A clock that shows whatever the test sets.
 class FixedClock final : public Clock {
@@ -43,7 +37,7 @@ public:
     QDateTime now() const override { return time; }
 };
 
-// Message boxes and file dialogs answered from a script; every text and every file dialog
+// Message boxes and file dialogs answered from a script; every box and every file dialog
 // shown is kept. Each character is 7 pixels wide, so a test can tell where a message breaks.
 class ScriptedDialogs final : public Dialogs {
 public:
@@ -58,6 +52,7 @@ public:
         FileKind kind;
         FileDialog request;
     };
+    // The boxes' answers in turn; when they run out, OK or Cancel.
     std::deque<MsgAnswer> answers;
     std::vector<Shown> shown;
     // The file dialogs' answers in turn: a name, or nothing for Cancel. When they run out,
@@ -68,58 +63,28 @@ public:
     std::function<void()> whileShown;
 
     MsgAnswer messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
-                         int defaultButton) override {
-        shown.push_back({text, icon, buttons, defaultButton});
-        if (whileShown) {
-            whileShown();
-        }
-        if (answers.empty()) {
-            return buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
-        }
-        const MsgAnswer answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
+                         int defaultButton) override;
     double textWidth(const QString& text) const override { return 7.0 * text.size(); }
-    std::optional<QString> openFileDialog(const FileDialog& request) override {
-        return fileDialog(FileKind::Open, request);
-    }
-    std::optional<QString> saveFileDialog(const FileDialog& request) override {
-        return fileDialog(FileKind::Save, request);
-    }
+    std::optional<QString> openFileDialog(const FileDialog& request) override;
+    std::optional<QString> saveFileDialog(const FileDialog& request) override;
+
+    // The texts of the boxes shown, each as the box showed it, broken to its width.
+    QStringList texts() const;
+    // The box texts expected, broken as the boxes break them.
+    QStringList wrapped(const QStringList& messages) const;
 
 private:
-    std::optional<QString> fileDialog(FileKind kind, const FileDialog& request) {
-        filesShown.push_back({kind, request});
-        if (fileAnswers.empty()) {
-            return std::nullopt;
-        }
-        const bool chosen = fileAnswers.front().has_value();
-        const QString name = fileAnswers.front().value_or(QString());
-        fileAnswers.pop_front();
-        if (!chosen) {
-            return std::nullopt;
-        }
-        return name;
-    }
+    std::optional<QString> fileDialog(FileKind kind, const FileDialog& request);
 };
 
 // A workspace in the given month with its name tables and calendar; given a home, also with
 // its working file and log there, as after a start in that folder.
-inline void openMonth(Workspace& ws, int year, int month, const QString& home = QString()) {
-    if (!home.isEmpty()) {
-        modInitSession(ws, home);
-    }
-    modInitNameTables(ws);
-    ws.gCurrentYear = year;
-    ws.gCurrentMonth = month;
-    modSetupMonth(ws);
-}
+void openMonth(Workspace& ws, int year, int month, const QString& home = QString());
 
 // The services of a test run, wired together.
 struct TestServices {
     FixedClock clock;
     ScriptedDialogs dialogs;
     MemoryRegistryStore registry;
-    Context ctx{clock, dialogs, registry, {}};
+    Context ctx{clock, dialogs, registry, {}, {}, {}};
 };

@@ -1,7 +1,108 @@
 #include "core/forms/formkit.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+
+namespace {
+
+template <typename Control>
+Control* named(Control* control, const QString& name, const QString& spokenAs) {
+    control->setObjectName(name);
+    control->setAccessibleName(spokenAs);
+    return control;
+}
+
+}  // namespace
+
+QString indexedName(const char* name, int index) {
+    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
+}
+
+QString spokenCaption(const QString& caption) {
+    QString spoken;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        if (caption[i] == QLatin1Char('&') && i + 1 < caption.size()) {
+            ++i;  // "&&" stands for one "&"; "&x" marks x as the access key
+        }
+        spoken += caption[i];
+    }
+    return spoken;
+}
+
+QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption) {
+    return named(new QPushButton(caption, parent), QLatin1String(name), spokenCaption(caption));
+}
+
+QGroupBox* makeFrame(QWidget* parent, const char* name, const QString& caption) {
+    QGroupBox* frame =
+        named(new QGroupBox(caption, parent), QLatin1String(name), spokenCaption(caption));
+    retainSizeWhenHidden(frame);
+    return frame;
+}
+
+QLabel* makeLabel(QWidget* parent, const char* name, const QString& caption) {
+    return named(new QLabel(caption, parent), QLatin1String(name), QString());
+}
+
+QCheckBox* makeCheckBox(QWidget* parent, const QString& name, const QString& caption) {
+    return named(new QCheckBox(caption, parent), name, spokenCaption(caption));
+}
+
+QLineEdit* makeTextBox(QWidget* parent, const char* name, const QString& spokenAs) {
+    return named(new QLineEdit(parent), QLatin1String(name), spokenCaption(spokenAs));
+}
+
+QComboBox* makeDropDown(QWidget* parent, const QString& name, const QString& spokenAs) {
+    return named(new QComboBox(parent), name, spokenCaption(spokenAs));
+}
+
+QListWidget* makeList(QWidget* parent, const char* name, const QString& spokenAs) {
+    return named(new QListWidget(parent), QLatin1String(name), spokenCaption(spokenAs));
+}
+
+QMenu* makeMenu(QMenuBar* bar, const char* name, const QString& caption) {
+    QMenu* menu = bar->addMenu(caption);
+    menu->setObjectName(QLatin1String(name));
+    return menu;
+}
+
+QMenu* makeSubmenu(QMenu* parent, const char* name, const QString& caption) {
+    QMenu* menu = parent->addMenu(caption);
+    menu->setObjectName(QLatin1String(name));
+    menu->menuAction()->setObjectName(QLatin1String(name));
+    return menu;
+}
+
+QAction* makeItem(QMenu* menu, const char* name, const QString& caption) {
+    QAction* item = menu->addAction(caption);
+    item->setObjectName(QLatin1String(name));
+    return item;
+}
+
+void makeSeparator(QMenu* menu, const char* name) {
+    menu->addSeparator()->setObjectName(QLatin1String(name));
+}
+
+void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled) {
+    for (QWidget* control : controls) {
+        control->setEnabled(enabled);
+    }
+}
+
+void retainSizeWhenHidden(QWidget* control) {
+    QSizePolicy policy = control->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(policy);
+}
 
 void showHourglass() {
     QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -19,9 +120,4 @@ void doEvents() {
 
 void modSelectAllText(QLineEdit* box) {
     box->setSelection(0, static_cast<int>(box->text().size()));
-}
-
-void modRemoveMinMaxFromSystemMenu(QWidget* form) {
-    form->setWindowFlag(Qt::WindowMinimizeButtonHint, false);
-    form->setWindowFlag(Qt::WindowMaximizeButtonHint, false);
 }

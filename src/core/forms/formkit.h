@@ -1,7 +1,50 @@
 #pragma once
 
+#include <QString>
+
+#include <initializer_list>
+
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QGroupBox;
+class QLabel;
 class QLineEdit;
+class QListWidget;
+class QMenu;
+class QMenuBar;
+class QPushButton;
 class QWidget;
+
+// Controls as the forms make them. Each carries its given name as its objectName, so that
+// commands and tests find it by name, and a name that a screen reader reads: its caption
+// without the access-key mark, or, for a control without a caption, the words of the label
+// or frame that stands for it.
+
+// The name of an element of a control array: "labDay(3)".
+QString indexedName(const char* name, int index);
+
+// A caption as it is read aloud: "&Save desko schedule as..." is "Save desko schedule as...".
+QString spokenCaption(const QString& caption);
+
+QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption);
+QGroupBox* makeFrame(QWidget* parent, const char* name, const QString& caption);
+QLabel* makeLabel(QWidget* parent, const char* name, const QString& caption);
+QCheckBox* makeCheckBox(QWidget* parent, const QString& name, const QString& caption);
+QLineEdit* makeTextBox(QWidget* parent, const char* name, const QString& spokenAs);
+QComboBox* makeDropDown(QWidget* parent, const QString& name, const QString& spokenAs);
+QListWidget* makeList(QWidget* parent, const char* name, const QString& spokenAs);
+
+QMenu* makeMenu(QMenuBar* bar, const char* name, const QString& caption);
+QMenu* makeSubmenu(QMenu* parent, const char* name, const QString& caption);
+QAction* makeItem(QMenu* menu, const char* name, const QString& caption);
+void makeSeparator(QMenu* menu, const char* name);
+
+void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
+
+// A control that keeps its place in its layout while hidden, so that a face never changes
+// its shape when one part of it gives way to another.
+void retainSizeWhenHidden(QWidget* control);
 
 // The hourglass of a long command, and the normal pointer at its end. The normal pointer
 // takes back every hourglass set before it.
@@ -13,6 +56,3 @@ void doEvents();
 
 // Puts the selection over the whole text of a text box.
 void modSelectAllText(QLineEdit* box);
-
-// A dialog window without minimise and maximise buttons.
-void modRemoveMinMaxFromSystemMenu(QWidget* form);

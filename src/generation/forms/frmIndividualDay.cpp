@@ -4,24 +4,17 @@
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
-#include "generation/forms/frmWholeCalendar.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHideEvent>
 #include <QPushButton>
-#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
-
-const char* const kShiftWords[] = {"First shift: ",  "Second shift: ", "Third shift: ",
-                                   "Fourth shift: ", "Fifth shift: ",  "Sixth shift: "};
 
 // The frames stand three to a row.
 constexpr int kFramesPerRow = 3;
@@ -29,35 +22,26 @@ constexpr int kFramesPerRow = 3;
 // A long key is cut in the list's face rather than widening the form.
 constexpr int kListCharacters = 18;
 
-// Frames and lists keep their places while hidden, so a day of few shifts does not
-// rearrange the form.
-void retainSizeWhenHidden(QWidget* widget) {
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-}
-
 }  // namespace
 
-frmIndividualDay::frmIndividualDay(Workspace& ws, Context& ctx, frmWholeCalendar& calendar)
-    : QWidget(nullptr), ws_(ws), ctx_(ctx), calendar_(calendar) {
+frmIndividualDay::frmIndividualDay(Workspace& ws, Context& ctx, Form& calendar, FaceWindow& window)
+    : Form(window), ws_(ws), ctx_(ctx), calendar_(calendar) {
     setObjectName(QStringLiteral("frmIndividualDay"));
-    setAttribute(Qt::WA_DeleteOnClose);
     buildControls();
-    Form_Load();
 }
 
 void frmIndividualDay::buildControls() {
     auto* frames = new QGridLayout;
-    for (int n = 1; n <= kShifts; ++n) {
-        auto* frame = new QGroupBox(this);
-        frame->setObjectName(QStringLiteral("fraShift(%1)").arg(n - 1));
-        retainSizeWhenHidden(frame);
+    for (int n = 1; n <= kDayEditorShifts; ++n) {
+        QGroupBox* frame = makeFrame(this, "", QString());
+        frame->setObjectName(indexedName("fraShift", n - 1));
+        frame->setAccessibleName(QStringLiteral("Shift %1").arg(n));
         frame->hide();
         auto* lists = new QVBoxLayout(frame);
-        for (int k = 0; k < kSlots; ++k) {
-            auto* list = new QComboBox(frame);
-            list->setObjectName(QStringLiteral("cmbShift%1(%2)").arg(n).arg(k));
+        for (int k = 0; k < kDayEditorSlots; ++k) {
+            const QString name = QStringLiteral("cmbShift%1").arg(n);
+            QComboBox* list = makeDropDown(frame, indexedName(qPrintable(name), k),
+                                           QStringLiteral("Shift %1, agent %2").arg(n).arg(k + 1));
             list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
             list->setMinimumContentsLength(kListCharacters);
             retainSizeWhenHidden(list);
@@ -71,8 +55,7 @@ void frmIndividualDay::buildControls() {
         fraShift[n - 1] = frame;
     }
 
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmdOK = makeButton(this, "cmdOK", QStringLiteral("OK"));
     cmdOK->setDefault(true);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -89,7 +72,6 @@ void frmIndividualDay::buildControls() {
 // The lists offer the agents' keys as they stand now, the review having just been opened
 // after a schedule was generated or read.
 void frmIndividualDay::Form_Load() {
-    modRemoveMinMaxFromSystemMenu(this);
     modStatus(ws_, ctx_,
               QStringLiteral("Viewing scheduled agents for ") + ws_.currentMonthName() +
                   QLatin1Char(' ') + QString::number(ws_.gSelectedDay));
@@ -109,12 +91,10 @@ void frmIndividualDay::Form_Load() {
 }
 
 void frmIndividualDay::Form_Activate() {
-    move(calendar_.pos());
-    resize(calendar_.size());
     setWindowTitle(calendar_.windowTitle());
 
     const int day = ws_.gSelectedDay;
-    const int w = ws_.weekdayOf(ws_.gSelectedDay);
+    const int w = ws_.weekdayOf(day);
     // A list shows no agent unless its cell holds a key that the list offers; what an
     // earlier day chose is forgotten.
     for (auto& shift : cmbShift) {
@@ -123,10 +103,10 @@ void frmIndividualDay::Form_Activate() {
         }
     }
     const int shifts = scheduleInRange(day, 0, 0) ? ws_.gShiftCount[w] : 0;
-    for (int n = 1; n <= std::min(shifts, kShifts); ++n) {
-        fraShift[n - 1]->setTitle(QLatin1String(kShiftWords[n - 1]) + ws_.gShiftText[w][n]);
+    for (int n = 1; n <= std::min(shifts, kDayEditorShifts); ++n) {
+        fraShift[n - 1]->setTitle(shiftFrameCaption(ws_, w, n));
         fraShift[n - 1]->show();
-        const int last = std::min(ws_.gShiftAgents[w][n], kSlots - 1);
+        const int last = std::min(ws_.gShiftAgents[w][n], kDayEditorSlots - 1);
         for (int k = 0; k <= last; ++k) {
             QComboBox* list = cmbShift[n - 1][k];
             list->setCurrentIndex(list->findText(ws_.schedule(day, n, k)));
@@ -137,7 +117,7 @@ void frmIndividualDay::Form_Activate() {
 }
 
 void frmIndividualDay::Form_Deactivate() {
-    for (int n = 0; n < kShifts; ++n) {
+    for (int n = 0; n < kDayEditorShifts; ++n) {
         for (QComboBox* list : cmbShift[n]) {
             list->hide();
         }
@@ -153,42 +133,19 @@ void frmIndividualDay::cmdOK_Click() {
     showHourglass();
     doEvents();
     ws_.gDirty = 1;
-
-    // Every shift is written, used or not: an unused shift's lists show nothing, so its cells
-    // become empty. A slot beyond the four lists keeps what it holds.
-    const int w = ws_.weekdayOf(ws_.gSelectedDay);
-    if (scheduleInRange(day, 0, 0)) {
-        for (int n = 1; n <= kShifts; ++n) {
-            const int last = std::min(ws_.gShiftAgents[w][n], kSlots - 1);
-            for (int k = 0; k <= last; ++k) {
-                ws_.schedule(day, n, k) = cmbShift[n - 1][k]->currentText();
-            }
+    DayLists lists;
+    for (int n = 0; n < kDayEditorShifts; ++n) {
+        for (int k = 0; k < kDayEditorSlots; ++k) {
+            lists[n][k] = cmbShift[n][k]->currentText();
         }
     }
+    storeDay(ws_, day, lists);
     hide();
     calendar_.show();
 }
 
-// Closing by the close box keeps the day as it was.
-void frmIndividualDay::Form_Unload() {
+// Closing by the window's close box keeps the day as it was.
+bool frmIndividualDay::Form_Unload() {
     calendar_.show();
-}
-
-void frmIndividualDay::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    if (!event->spontaneous()) {
-        Form_Activate();
-    }
-}
-
-void frmIndividualDay::hideEvent(QHideEvent* event) {
-    QWidget::hideEvent(event);
-    if (!event->spontaneous()) {
-        Form_Deactivate();
-    }
-}
-
-void frmIndividualDay::closeEvent(QCloseEvent* event) {
-    Form_Unload();
-    event->accept();
+    return true;
 }

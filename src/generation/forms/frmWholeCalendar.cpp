@@ -1,30 +1,24 @@
 #include "generation/forms/frmWholeCalendar.h"
 
+#include "core/forms/elidedlabel.h"
 #include "core/forms/formkit.h"
 #include "core/model/daycaption.h"
 #include "core/model/monthdata.h"
-#include "core/model/textrules.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
-#include "core/services/dialogs.h"
 #include "core/services/log.h"
 #include "core/services/msgbox.h"
 #include "generation/engines.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/generate.h"
-#include "shell/forms/frmMain.h"
+#include "generation/review.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
-#include <QScreen>
-#include <QShowEvent>
-#include <QSignalBlocker>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -32,18 +26,17 @@ namespace {
 
 constexpr int kColumns = 7;
 constexpr int kRows = 6;
-// A cell's note stands on its sixth line, under the shifts; a day of six shifts of one
-// agent pushes it to the seventh, which the cell still shows.
-constexpr int kCellLines = 7;
+// A cell shows six lines, the sixth the place of a note, beside the day's number in its
+// corner: what does not fit is cut with a mark, and shown whole as the cell's tooltip.
+constexpr int kCellLines = 6;
+// A cell is as wide as two keys of common length joined by a slash; seven of them fit a
+// screen of 1024 pixels.
+const QString kCellSample = QStringLiteral("Nakamura/Svensson");
 // The rows of the form's grid: the instruction, the day names, six weeks, the buttons.
 constexpr int kInstructionRow = 0;
 constexpr int kDayNameRow = 1;
 constexpr int kFirstWeekRow = 2;
 constexpr int kButtonRow = kFirstWeekRow + kRows;
-
-QString indexedName(const char* name, int index) {
-    return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
-}
 
 bool isSerial(int engine) {
     return engine == kEngineHorizontal || engine == kEngineMixed;
@@ -51,21 +44,11 @@ bool isSerial(int engine) {
 
 }  // namespace
 
-frmWholeCalendar::frmWholeCalendar(Workspace& ws, Context& ctx, frmMain& main)
-    : QWidget(nullptr), ws_(ws), ctx_(ctx), main_(main) {
+frmWholeCalendar::frmWholeCalendar(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window)
+    : Form(window), ws_(ws), ctx_(ctx), main_(main) {
     setObjectName(QStringLiteral("frmWholeCalendar"));
-    setAttribute(Qt::WA_DeleteOnClose);
     buildControls();
-    Form_Load();
-}
-
-// The day editor is a window of its own; it does not outlive the review it belongs to.
-frmWholeCalendar::~frmWholeCalendar() {
-    delete dayEditor_;
-}
-
-frmIndividualDay* frmWholeCalendar::dayEditor() const {
-    return dayEditor_;
+    dayEditor_ = new frmIndividualDay(ws, ctx, *this, window);
 }
 
 void frmWholeCalendar::buildControls() {
@@ -73,9 +56,8 @@ void frmWholeCalendar::buildControls() {
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(4);
 
-    labInstruction = new QLabel(QStringLiteral("Click a day to view or edit its contents."), this);
-    labInstruction->setObjectName(QStringLiteral("labInstruction"));
-
+    labInstruction = makeLabel(this, "labInstruction",
+                               QStringLiteral("Click a day to view or edit its contents."));
     for (int w = 0; w < kColumns; ++w) {
         labDayName[w] = new QLabel(ws_.gDayNames[w], this);
         labDayName[w]->setObjectName(indexedName("labDayName", w));
@@ -84,68 +66,50 @@ void frmWholeCalendar::buildControls() {
         grid->setColumnStretch(w, 1);
     }
 
-    // A cell is a box with the day's number in its corner and the day's text below it. Seven
-    // lines must fit, and a line of two keys of some ten letters, a bracketed initial among them,
-    // joined by a slash.
+    // A cell is a box with the day's text and, in its top right corner, the day's number.
     const QFontMetrics metrics = fontMetrics();
-    const int cellWidth = 22 * metrics.averageCharWidth() + 16;
-    const int textHeight = kCellLines * metrics.lineSpacing();
     QFont numberFont = font();
     numberFont.setBold(true);
     for (int i = 0; i < kCells; ++i) {
         auto* cell = new QFrame(this);
         cell->setFrameStyle(QFrame::Box | QFrame::Plain);
-        cell->setMinimumWidth(cellWidth);
-        // Only the month's days have a box; the others leave their place in the grid empty,
-        // and every part of a cell keeps its size while hidden.
-        QSizePolicy cellPolicy = cell->sizePolicy();
-        cellPolicy.setRetainSizeWhenHidden(true);
-        cell->setSizePolicy(cellPolicy);
-        cell->hide();
-        auto* cellLayout = new QVBoxLayout(cell);
-        cellLayout->setContentsMargins(4, 2, 4, 4);
-        cellLayout->setSpacing(0);
+        cell->setMinimumWidth(metrics.horizontalAdvance(kCellSample) + 10);
+        // Only the month's days have a box; the others leave their place in the grid empty.
+        retainSizeWhenHidden(cell);
+        auto* cellLayout = new QGridLayout(cell);
+        cellLayout->setContentsMargins(4, 2, 4, 2);
 
-        labNumber[i] = new QLabel(cell);
+        labDay[i] = new ElidedLabel(cell);
+        labDay[i]->setObjectName(indexedName("labDay", i));
+        labDay[i]->setMinimumHeight(kCellLines * metrics.lineSpacing());
+        labDay[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+        labNumber[i] = makeLabel(cell, "", QString());
         labNumber[i]->setObjectName(indexedName("labNumber", i));
         labNumber[i]->setFont(numberFont);
-        labNumber[i]->setAlignment(Qt::AlignRight | Qt::AlignTop);
-        labDay[i] = new QLabel(cell);
-        labDay[i]->setObjectName(indexedName("labDay", i));
-        labDay[i]->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-        labDay[i]->setWordWrap(true);
-        labDay[i]->setMinimumHeight(textHeight);
-        labDay[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-        for (QLabel* label : {labNumber[i], labDay[i]}) {
-            QSizePolicy policy = label->sizePolicy();
-            policy.setRetainSizeWhenHidden(true);
-            label->setSizePolicy(policy);
-            label->hide();
+        for (QLabel* label : {static_cast<QLabel*>(labDay[i]), labNumber[i]}) {
             label->installEventFilter(this);
         }
-        cellLayout->addWidget(labNumber[i]);
-        cellLayout->addWidget(labDay[i], 1);
+        cellLayout->addWidget(labDay[i], 0, 0);
+        cellLayout->addWidget(labNumber[i], 0, 0, Qt::AlignRight | Qt::AlignTop);
         grid->addWidget(cell, kFirstWeekRow + i / kColumns, i % kColumns);
     }
     for (int row = 0; row < kRows; ++row) {
         grid->setRowStretch(kFirstWeekRow + row, 1);
     }
 
-    cmbAgents = new QComboBox(this);
-    cmbAgents->setObjectName(QStringLiteral("cmbAgents"));
-    cmbAgents->hide();
-    cmdReschedule = new QPushButton(QStringLiteral("&Reschedule"), this);
-    cmdReschedule->setObjectName(QStringLiteral("cmdReschedule"));
-    cmdReschedule->hide();
-    cmdOK = new QPushButton(QStringLiteral("OK"), this);
-    cmdOK->setObjectName(QStringLiteral("cmdOK"));
+    cmbAgents = makeDropDown(this, QStringLiteral("cmbAgents"), QStringLiteral("Initial agent"));
+    cmdReschedule = makeButton(this, "cmdReschedule", QStringLiteral("&Reschedule"));
+    cmdOK = makeButton(this, "cmdOK", QStringLiteral("OK"));
     cmdOK->setDefault(true);
     cmdReschedule->setMinimumWidth(cmdOK->sizeHint().width());
+    labInstruction->setBuddy(cmbAgents);
+
+    // Every control has its place from the start, so the window knows the size it needs.
+    placeEngineControls(kEngineShuffled);
 
     connect(cmdReschedule, &QPushButton::clicked, this, [this] { cmdReschedule_Click(); });
-    // Setting the list's index from code counts as a click too; the click itself tells the
-    // cases apart.
-    connect(cmbAgents, &QComboBox::currentIndexChanged, this, [this] { cmbAgents_Click(); });
+    // Choosing an entry, also the one already shown, is the list's click.
+    connect(cmbAgents, &QComboBox::activated, this, [this] { cmbAgents_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
 }
 
@@ -154,61 +118,52 @@ void frmWholeCalendar::buildControls() {
 // beside OK, and OK alone stands in the middle, under the fourth column.
 void frmWholeCalendar::placeEngineControls(int engine) {
     auto* grid = static_cast<QGridLayout*>(layout());
+    for (QWidget* control :
+         {static_cast<QWidget*>(labInstruction), static_cast<QWidget*>(cmbAgents),
+          static_cast<QWidget*>(cmdReschedule), static_cast<QWidget*>(cmdOK)}) {
+        grid->removeWidget(control);
+    }
     if (isSerial(engine)) {
+        labInstruction->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         grid->addWidget(labInstruction, kInstructionRow, 0, 1, 5);
         grid->addWidget(cmbAgents, kInstructionRow, 5, 1, 2);
     } else {
         labInstruction->setAlignment(Qt::AlignCenter);
         grid->addWidget(labInstruction, kInstructionRow, 0, 1, kColumns);
     }
-    if (engine == kEngineShuffled) {
-        grid->addWidget(cmdReschedule, kButtonRow, 5, Qt::AlignHCenter);
-    }
+    grid->addWidget(cmdReschedule, kButtonRow, 5, Qt::AlignHCenter);
     const bool alone = engine == kEngineSmartRandom || engine == -1;
     grid->addWidget(cmdOK, kButtonRow, alone ? 3 : 6, Qt::AlignHCenter);
 }
 
+// Each load starts from a clean face: the month and the engine may be others than the last
+// time the review stood on the screen.
 void frmWholeCalendar::Form_Load() {
-    const int engine = main_.cmbGenerate->currentIndex();
-    // The form's full size is known once every control has its place.
-    placeEngineControls(engine);
-
-    modRemoveMinMaxFromSystemMenu(this);
     modStatus(ws_, ctx_, QStringLiteral("Viewing generated schedule"));
-
-    // The review stands where the main window was, at least as large as its grid; being
-    // larger, it moves as far as it must to stay whole on the screen.
-    layout()->activate();
-    QRect placed(main_.pos(), main_.size().expandedTo(minimumSizeHint()));
-    if (const QScreen* screen = main_.screen()) {
-        const QRect area = screen->availableGeometry();
-        placed.moveRight(std::min(placed.right(), area.right()));
-        placed.moveBottom(std::min(placed.bottom(), area.bottom()));
-        placed.moveTopLeft(
-            QPoint(std::max(placed.left(), area.left()), std::max(placed.top(), area.top())));
-    }
-    move(placed.topLeft());
-    resize(placed.size());
-    setWindowState(main_.windowState());
     setWindowTitle(main_.windowTitle());
-
     modFillDayEditorCombos(ws_);
 
+    const int engine = ws_.cmbGenerateListIndex;
+    placeEngineControls(engine);
+    for (int i = 0; i < kCells; ++i) {
+        labDay[i]->parentWidget()->hide();
+    }
+    labInstruction->setText(QStringLiteral("Click a day to view or edit its contents."));
+    cmbAgents->clear();
+    cmbAgents->setVisible(isSerial(engine));
+    cmdReschedule->setVisible(engine == kEngineShuffled);
     if (isSerial(engine)) {
         labInstruction->setText(
             QStringLiteral("Click on any day to view its contents.  Use the dropdown to change "
                            "the initial agent."));
-        cmbAgents->show();
         const int agents = std::min(ws_.gAgentCount, static_cast<int>(ws_.gAgentKey.size()) - 1);
         for (int a = 1; a <= agents; ++a) {
             cmbAgents->addItem(ws_.gAgentKey[a]);
         }
         // A run that started from the last agent began with the first one. The main window
-        // is still on the screen, so the click this raises rebuilds nothing.
+        // is still on the screen, so the click this makes rebuilds nothing.
         cmbAgents->setCurrentIndex(ws_.gBaseAgent == ws_.gAgentCount ? 0 : ws_.gBaseAgent);
-    }
-    if (engine == kEngineShuffled) {
-        cmdReschedule->show();
+        cmbAgents_Click();
     }
 
     ws_.gScheduleGenerated = 1;
@@ -227,10 +182,9 @@ void frmWholeCalendar::Form_Activate() {
             continue;
         }
         labNumber[i]->setText(QString::number(d));
-        labNumber[i]->show();
-
-        labDay[i]->setText(dayCaption(ws_, d));
-        labDay[i]->show();
+        // The first line stops short of the number in the corner.
+        labDay[i]->setFirstLineRoom(labNumber[i]->sizeHint().width() + 4);
+        labDay[i]->setLines(dayCaption(ws_, d));
         labDay[i]->parentWidget()->show();
     }
     show();
@@ -245,19 +199,13 @@ void frmWholeCalendar::labDay_MouseDown(int index) {
     }
     ws_.gSelectedDay = day;
     if (ws_.gHoliday[day] == 1) {
-        msgBox(ctx_.dialogs,
-               ws_.currentMonthName() + QLatin1Char(' ') + QString::number(day) +
-                   QStringLiteral(" is ") + ws_.gHolidayName[day] + QLatin1Char('.'),
-               MsgIcon::Information, MsgButtons::OK);
+        msgBox(ctx_.dialogs, holidayMessage(ws_, day), MsgIcon::Information, MsgButtons::OK);
         return;
     }
     showHourglass();
     show();
     doEvents();
     showNormalPointer();
-    if (!dayEditor_) {
-        dayEditor_ = new frmIndividualDay(ws_, ctx_, *this);
-    }
     dayEditor_->show();
     hide();
 }
@@ -278,10 +226,7 @@ void frmWholeCalendar::cmdReschedule_Click() {
 void frmWholeCalendar::cmbAgents_Click() {
     // While the form loads, the main window is still up, and the list's first index is no
     // choice of the user's.
-    if (main_.isVisible()) {
-        return;
-    }
-    if (cmbAgents->currentIndex() == ws_.gCalendarAgentIndex) {
+    if (main_.isVisible() || cmbAgents->currentIndex() == ws_.gCalendarAgentIndex) {
         return;
     }
     showHourglass();
@@ -291,27 +236,9 @@ void frmWholeCalendar::cmbAgents_Click() {
         }
     }
     if (cmbAgents->currentIndex() == -1) {
-        const QSignalBlocker quiet(cmbAgents);
         cmbAgents->setCurrentIndex(0);
     }
-    // The engine places agent index + 1 first. It writes over every position of the month,
-    // changes made by hand included.
-    ws_.gInitialAgent = cmbAgents->currentIndex();
-    switch (main_.cmbGenerate->currentIndex()) {
-        // Shuffled takes the index as its draw count. Its face has no list, so this case
-        // does not come from the form.
-        case kEngineShuffled:
-            modGenerateShuffled(ws_, ctx_, ws_.gInitialAgent);
-            break;
-        case kEngineHorizontal:
-            modGenerateSerialHorizontal(ws_, ctx_, ws_.gInitialAgent);
-            break;
-        case kEngineMixed:
-            modGenerateSerialMixed(ws_, ctx_, ws_.gInitialAgent);
-            break;
-        default:
-            break;
-    }
+    rerunFromAgent(ws_, ctx_, ws_.cmbGenerateListIndex, cmbAgents->currentIndex());
     ws_.gCalendarAgentIndex = cmbAgents->currentIndex();
     Form_Activate();
     show();
@@ -323,29 +250,17 @@ void frmWholeCalendar::cmdOK_Click() {
     doEvents();
     show();
     main_.show();
-    close();
+    unload();
     main_.modLeaveBusyState();
     showNormalPointer();
 }
 
-void frmWholeCalendar::Form_Unload() {
+bool frmWholeCalendar::Form_Unload() {
     modStatus(ws_, ctx_, QStringLiteral("Closing generated schedule"));
     showHourglass();
+    dayEditor_->unload();
     main_.show();
-}
-
-// Each time the form comes back on the screen, from the day editor or from the main
-// window's commands, it shows the schedule as it now stands.
-void frmWholeCalendar::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
-    if (!event->spontaneous()) {
-        Form_Activate();
-    }
-}
-
-void frmWholeCalendar::closeEvent(QCloseEvent* event) {
-    Form_Unload();
-    event->accept();
+    return true;
 }
 
 bool frmWholeCalendar::eventFilter(QObject* watched, QEvent* event) {
@@ -361,5 +276,5 @@ bool frmWholeCalendar::eventFilter(QObject* watched, QEvent* event) {
             }
         }
     }
-    return QWidget::eventFilter(watched, event);
+    return Form::eventFilter(watched, event);
 }

@@ -1,5 +1,6 @@
 #include "shell/forms/application.h"
 
+#include "core/forms/facewindow.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
@@ -30,7 +31,7 @@ int runProgram(QApplication& app, const Launch& launch, const std::function<void
         return 0;
     }
     dialogs.setParent(run.window.get());
-    QObject::connect(run.window.get(), &frmMain::programEnds, &app, [] { QApplication::exit(0); });
+    QObject::connect(run.main, &frmMain::programEnds, &app, [] { QApplication::exit(0); });
     if (afterStart) {
         afterStart();
     }

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <QMainWindow>
-#include <QPointer>
+#include "core/forms/form.h"
+#include "shell/mainview.h"
+#include "shell/viewedit.h"
 
 #include <array>
-#include <optional>
 
+class FaceWindow;
+class MonthStepper;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -16,42 +18,43 @@ class QLineEdit;
 class QListWidget;
 class QMenu;
 class QPushButton;
-class QScrollBar;
 class frmWholeCalendar;
 struct Context;
 struct Workspace;
 
-// The one window that lives for the whole run. Its controls follow the Workspace in the
-// normal face and are all dead in the busy face, while a form or a long command runs.
-// Every control carries its name as its objectName; the print boxes are "chkPrint(0)" to
-// "chkPrint(5)".
-class frmMain : public QMainWindow {
+// The main window: the face of the program's window that lives for the whole run. Its
+// controls follow the Workspace in the normal face and are all dead in the busy face, while
+// another form or a long command runs. Every control carries its name as its objectName;
+// the print boxes are "chkPrint(0)" to "chkPrint(5)". The commands' rules are logic
+// routines of the shell; the events here hand them the controls' values and show what they
+// leave.
+class frmMain : public MainForm, public MainView {
     Q_OBJECT
 
 public:
     // programFile is the name of the program's file without its path; the caption shows the
-    // workspace's tag only under the program's own name.
-    frmMain(Workspace& ws, Context& ctx, const QString& programFile, QWidget* parent = nullptr);
-    ~frmMain() override;
+    // workspace's tag only under the program's own name. Makes the other forms as faces of
+    // the same window, fits the window to them and loads this form.
+    frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString& programFile);
 
-    void modEnterBusyState();
-    void modLeaveBusyState();
+    void modEnterBusyState() override;
+    void modLeaveBusyState() override;
     void modFillAgentList();
     void modUpdateAgentList();
     void modUpdateCmbViewEdit();
 
-    // The window's events, named as the rest of the program calls them.
-    void Form_Activate();
+    // MainView: what the command flows ask of the window.
+    void beginLongCommand(const QString& status) override;
+    void showOpenedSchedule() override;
+    void showReview() override;
+
+    void Form_Activate() override;
     void Form_GotFocus();
-    // Closing the window: true when it may close, false when the user cancelled.
-    bool Form_Unload();
+    bool Form_Unload() override;
     void mnuFExit_Click();
     void lstAgents_Click();
     void lstAgents_DblClick();
     void fraPrint_Click();
-
-    // Opens the schedule file the program was started with; path becomes "0".
-    void modOpenFromCommandLine(QString& path);
 
     // The agent list's commands.
     void cmdAdd_Click();
@@ -66,23 +69,17 @@ public:
     void cmdHolidays_Click();
     void cmdNotes_Click();
 
-    // The month stepper moved.
     void vscDate_Change();
 
-    // The file commands.
     void mnuFile_Click();
     void mnuFNew_Click();
     void mnuFOpen_Click();
     void mnuFSaveAs_Click();
 
-    // The generate command, and the review form it opens.
     void cmdGenerate_Click();
-    void showWholeCalendar();
-
-    // The forms that the view/edit list and the Edit menu open.
-    enum class ViewForm { Schedule, DailyShifts, AllConstraints, FontsAndPrinter };
-    static std::optional<ViewForm> viewFormNamed(const QString& item);
     void cmdViewEdit_Click();
+
+    frmWholeCalendar* review() const { return review_; }
 
     // The controls, as the other forms and commands reach them.
     QGroupBox* fraEditAgent;
@@ -121,7 +118,7 @@ public:
     QFrame* picStatus;
     QFrame* shpStatus;
     QGroupBox* fraDate;
-    QScrollBar* vscDate;
+    MonthStepper* vscDate;
     QLabel* labDate;
 
     // The menu bar: the four menus, the two submenus and every item.
@@ -159,46 +156,33 @@ signals:
     void programEnds();
 
 protected:
-    void changeEvent(QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    void Form_Load() override;
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void Form_Load();
     void buildControls();
+    QWidget* buildCommandFrames();
+    void buildEditFrame();
     void buildMenus();
-    void endProgram();
+    void connectCommands();
+    void connectAgentCommands();
 
-    void showEvent(QShowEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     QString windowCaption() const;
     void setAgentFrameCaption();
     void makeDefaultButton(QPushButton* button);
     void pressGenerate(int listIndex);
     void showToFront();
-    void mirrorPrintAndEngine();
     void showPrintAndEngine();
-    // The status frame in the month frame's place, telling what the command does.
     void showStatus(const QString& text);
-    // A long command begins: its status shows and the window goes busy under the hourglass.
-    void beginLongCommand(const QString& text);
-    // Each group of commands connects its own controls.
-    void connectAgentCommands();
-    void connectMonthChange();
-    void connectFileCommands();
-    void connectGenerate();
-    std::optional<int> constraintAgent();
-    void connectViewEdit();
     void showProgress(double done);
-    void openFromMenu(ViewForm form);
-    bool viewFormReady(ViewForm form);
-    void showViewForm(ViewForm form);
+    void showEditFrame(bool editing);
+    void clearEditFrame();
+    void openViewForm(ViewForm form);
+    std::optional<int> constraintAgent();
 
     Workspace& ws_;
     Context& ctx_;
     QString programFile_;
-    QPointer<frmWholeCalendar> wholeCalendar_;
-    // Set when another of the program's windows took the activation from this one, so that
-    // coming back rebuilds the controls; a message box or another application does not.
-    bool activationLostToForm_ = false;
+    frmWholeCalendar* review_;
 };

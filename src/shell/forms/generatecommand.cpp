@@ -5,7 +5,6 @@
 #include "core/forms/formkit.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
-#include "generation/forms/frmWholeCalendar.h"
 #include "generation/generate.h"
 #include "shell/forms/frmMain.h"
 
@@ -15,10 +14,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-
-void frmMain::connectGenerate() {
-    connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
-}
 
 void frmMain::cmdGenerate_Click() {
     if (!prepareGenerate(ws_, ctx_, cmbGenerate->currentIndex())) {
@@ -57,7 +52,7 @@ void frmMain::cmdGenerate_Click() {
     if (smartRandom) {
         doEvents();
     }
-    showWholeCalendar();
+    showReview();
     if (smartRandom) {
         picStatus->hide();
     }
@@ -67,13 +62,4 @@ void frmMain::cmdGenerate_Click() {
 void frmMain::showProgress(double done) {
     const int full = picStatus->width() - 2;
     shpStatus->setGeometry(1, 1, static_cast<int>(full * done), picStatus->height() - 2);
-}
-
-void frmMain::showWholeCalendar() {
-    if (wholeCalendar_) {
-        wholeCalendar_->show();
-        return;
-    }
-    // Its load shows it in this window's place and hides this window.
-    wholeCalendar_ = new frmWholeCalendar(ws_, ctx_, *this);
 }

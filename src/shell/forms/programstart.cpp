@@ -1,53 +1,31 @@
 #include "shell/forms/programstart.h"
 
+#include "core/forms/facewindow.h"
 #include "core/forms/formkit.h"
-#include "core/model/agentkeys.h"
-#include "core/model/calendar.h"
-#include "core/model/textrules.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
-#include "core/services/dialogs.h"
-#include "core/services/log.h"
 #include "core/services/msgbox.h"
-#include "core/services/randomsequence.h"
 #include "environment/forms/frmCredit.h"
-#include "persistence/storecheck.h"
-#include "persistence/workspacefile.h"
+#include "shell/filecommands.h"
 #include "shell/forms/frmMain.h"
-#include "shell/session.h"
-#include "shell/startmonth.h"
+#include "shell/programstart.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLockFile>
 
-namespace {
-
-// One run per program directory. The claim is a lock file that names its process, so the
-// claim of a run that crashed lapses with it. A directory where no claim can be written
-// (read-only, missing) does not stop the program.
-std::unique_ptr<QLockFile> claimProgramDirectory(const QString& appPath, bool& otherRunning) {
-    auto lock = std::make_unique<QLockFile>(appPath + QStringLiteral("/Desko40.lock"));
-    lock->setStaleLockTime(0);
-    otherRunning = !lock->tryLock(0) && lock->error() == QLockFile::LockFailedError;
-    return lock;
-}
-
-}  // namespace
-
 DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& programFile,
                          const QString& commandLine) {
-    const QString& appPath = ctx.launch.home;
     ws.gNoErrorTrap = false;
     bool otherRunning = false;
     DeskoRun run;
-    run.instance = claimProgramDirectory(appPath, otherRunning);
+    run.instance = claimProgramDirectory(ctx.launch.home, otherRunning);
     if (otherRunning) {
         msgBox(ctx.dialogs,
-               QStringLiteral("You may run only one instance of Desko for Windows rev "
-                              "4.0 at a time."),
+               QStringLiteral("You may run only one instance of Desko for Windows rev 4.0 at a "
+                              "time."),
                MsgIcon::Stop, MsgButtons::OK);
         run.instance.reset();
         return run;
@@ -61,25 +39,20 @@ DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& programFile
         doEvents();
     }
     showHourglass();
-    modInitSession(ws, appPath);
-    modInitNameTables(ws);
-    modMigrateOrCheckStore(ws, ctx);
-    modLogOpen(ws, ctx, commandLine);
-    modLoadWorkspace(ws, ctx, QString());
-    modBuildAgentKeys(ws);
-    modStartMonth(ws, ctx);
-    modSetupMonth(ws);
+    prepareWorkspace(ws, ctx, commandLine);
     while (splash && splash->isVisible()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     splash.reset();
 
-    run.window = std::make_unique<frmMain>(ws, ctx, programFile);
+    run.window = std::make_unique<FaceWindow>();
+    run.main = new frmMain(ws, ctx, *run.window, programFile);
+    run.main->show();
     run.window->show();
     doEvents();  // the window is up and active before a file on the command line opens
     if (!commandLine.isEmpty() && QFileInfo(commandLine).isFile()) {
         QString path = commandLine;
-        run.window->modOpenFromCommandLine(path);
+        modOpenFromCommandLine(ws, ctx, *run.main, path);
     }
     return run;
 }

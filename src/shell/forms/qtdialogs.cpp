@@ -1,9 +1,12 @@
 #include "shell/forms/qtdialogs.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QWidget>
 
 #include <algorithm>
@@ -48,6 +51,63 @@ std::vector<Button> buttonsOf(MsgButtons buttons) {
     return {{QMessageBox::Ok, MsgAnswer::OK}};
 }
 
+// A box answers Escape and its close box only where it has a button that means "leave it":
+// Cancel, or OK when that is its only button. A Yes or No question has no third answer, so
+// there Escape and the close box do nothing; the user must say Yes or No.
+class MessageBox final : public QMessageBox {
+public:
+    MessageBox(QMessageBox::Icon icon, const QString& text, QWidget* parent)
+        : QMessageBox(icon, QString(), text, QMessageBox::NoButton, parent) {}
+
+    void setLeaveButton(QAbstractButton* button) {
+        leave_ = button;
+        if (button != nullptr) {
+            setEscapeButton(button);
+        }
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape && leave_ == nullptr) {
+            event->accept();
+            return;
+        }
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (leave_ == nullptr) {
+            event->ignore();
+            return;
+        }
+        QMessageBox::closeEvent(event);
+    }
+
+private:
+    QAbstractButton* leave_ = nullptr;
+};
+
+// While a dialog asks, the pointer is the normal one, whatever hourglass the command shows;
+// the hourglass comes back with the answer.
+class NormalPointerWhileAsking {
+public:
+    NormalPointerWhileAsking() {
+        while (QApplication::overrideCursor() != nullptr) {
+            QApplication::restoreOverrideCursor();
+            ++lifted_;
+        }
+    }
+    ~NormalPointerWhileAsking() {
+        for (int i = 0; i < lifted_; ++i) {
+            QApplication::setOverrideCursor(Qt::WaitCursor);
+        }
+    }
+    NormalPointerWhileAsking(const NormalPointerWhileAsking&) = delete;
+    NormalPointerWhileAsking& operator=(const NormalPointerWhileAsking&) = delete;
+
+private:
+    int lifted_ = 0;
+};
+
 // "Desko schedules (*.dko)|*.dko|All files (*.*)|*.*" becomes the name filters Qt shows,
 // "Desko schedules (*.dko)" and "All files (*.*)". Qt reads the patterns from the brackets
 // of each name, so a description that does not end with its own patterns gets them added.
@@ -62,12 +122,14 @@ QStringList nameFilters(const QString& filter) {
     return result;
 }
 
+// Both dialogs take any name typed: the open dialog lets a name that is not there through to
+// the reading of the file, which tells the user what it could not read.
 std::optional<QString> runFileDialog(const FileDialog& request, QFileDialog::AcceptMode mode,
                                      QWidget* parent) {
+    const NormalPointerWhileAsking pointer;
     QFileDialog dialog(parent, request.title, request.initialDir);
     dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
-                                                       : QFileDialog::AnyFile);
+    dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.promptOverwrite);
     const QStringList filters = nameFilters(request.filter);
     if (!filters.isEmpty()) {
@@ -87,10 +149,14 @@ std::optional<QString> runFileDialog(const FileDialog& request, QFileDialog::Acc
 
 MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
                                 int defaultButton) {
+    const NormalPointerWhileAsking pointer;
     const std::vector<Button> choices = buttonsOf(buttons);
-    QMessageBox box(qtIcon(icon), QString(), text, QMessageBox::NoButton, parent_);
+    MessageBox box(qtIcon(icon), text, parent_);
     for (const Button& choice : choices) {
-        box.addButton(choice.qt);
+        QAbstractButton* button = box.addButton(choice.qt);
+        if (choice.answer == MsgAnswer::Cancel || buttons == MsgButtons::OK) {
+            box.setLeaveButton(button);
+        }
     }
     const auto chosenDefault = static_cast<std::size_t>(std::max(defaultButton, 1) - 1);
     box.setDefaultButton(choices[std::min(chosenDefault, choices.size() - 1)].qt);
@@ -100,7 +166,6 @@ MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons bu
             return choice.answer;
         }
     }
-    // Closing the box by its frame or Escape answers as its last button does.
     return choices.back().answer;
 }
 

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QWidget>
+
+#include <vector>
+
+class Form;
+class QGridLayout;
+class QScrollArea;
+
+// The program's one top-level window; every form is a face of it. The faces lie on top of
+// each other, the one shown last on top, so that a form that is shown takes the place, the
+// size and the screen of the form before it, and the window carries the caption of the face
+// on top. The window is as large as its largest face asks, never larger than the screen's
+// available area; on a smaller screen the faces scroll, so that every control can be reached.
+class FaceWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    FaceWindow();
+
+    // Makes the form a face of this window, hidden until it is shown.
+    void addFace(Form* face);
+    // Sizes the window for its faces, within the available area of its screen.
+    void fitFaces();
+    // The visible face on top, or null.
+    Form* topFace() const;
+
+protected:
+    // The window's close box closes the face on top.
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void showTopCaption();
+
+    QScrollArea* scroll_;
+    QWidget* stage_;
+    QGridLayout* faces_;
+};

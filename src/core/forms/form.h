@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+class FaceWindow;
+
+// A form of the program: one face of the program's one window. A form is made with the
+// window and lies hidden until it is shown. Showing a form that is not loaded loads it first
+// (Form_Load); each time it comes on the screen it is activated (Form_Activate), each time
+// it leaves it is deactivated (Form_Deactivate). Unloading it, or closing it by the window's
+// close box while it is on top, asks Form_Unload, which may keep it; a form unloaded leaves
+// the screen and loads afresh when it is shown again.
+class Form : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Form(FaceWindow& window);
+
+    bool isLoaded() const { return loaded_; }
+    // Loads the form unless it is loaded.
+    void load();
+    // False when Form_Unload kept the form.
+    bool unload();
+
+protected:
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual void Form_Deactivate() {}
+    // False keeps the form loaded and on the screen.
+    virtual bool Form_Unload() { return true; }
+
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    bool loaded_ = false;
+};
+
+// The main window as the other forms reach it: it takes the screen back when they close,
+// and its busy face ends only when it is told.
+class MainForm : public Form {
+    Q_OBJECT
+
+public:
+    using Form::Form;
+    virtual void modEnterBusyState() = 0;
+    virtual void modLeaveBusyState() = 0;
+};

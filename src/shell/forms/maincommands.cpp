@@ -1,0 +1,148 @@
+// The main window's events that hand a command to its flow: the File menu and the two roads
+// out, the month stepper, the view/edit list and the Edit menu, the Generate menu, and the
+// print boxes and engine list that the Workspace mirrors.
+
+#include "core/forms/formkit.h"
+#include "core/model/workspace.h"
+#include "generation/forms/frmWholeCalendar.h"
+#include "shell/filecommands.h"
+#include "shell/forms/frmMain.h"
+#include "shell/forms/monthstepper.h"
+#include "shell/monthchange.h"
+#include "shell/shutdown.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+
+namespace {
+
+int valueOf(int checkState) {
+    switch (checkState) {
+        case Qt::Checked:
+            return 1;
+        case Qt::PartiallyChecked:
+            return 2;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+void frmMain::connectCommands() {
+    connect(lstAgents, &QListWidget::currentRowChanged, this, [this] { lstAgents_Click(); });
+    connect(lstAgents, &QListWidget::itemDoubleClicked, this, [this] { lstAgents_DblClick(); });
+    connect(vscDate, &MonthStepper::changed, this, [this] { vscDate_Change(); });
+
+    connect(mnuFile, &QMenu::aboutToShow, this, [this] { mnuFile_Click(); });
+    connect(mnuFNew, &QAction::triggered, this, [this] { mnuFNew_Click(); });
+    connect(mnuFOpen, &QAction::triggered, this, [this] { mnuFOpen_Click(); });
+    connect(mnuFSaveAs, &QAction::triggered, this, [this] { mnuFSaveAs_Click(); });
+    connect(mnuFExit, &QAction::triggered, this, [this] { mnuFExit_Click(); });
+
+    connect(cmdViewEdit, &QPushButton::clicked, this, [this] { cmdViewEdit_Click(); });
+    connect(mnuESchedule, &QAction::triggered, this, [this] { openViewForm(ViewForm::Schedule); });
+    connect(mnuEShifts, &QAction::triggered, this, [this] { openViewForm(ViewForm::DailyShifts); });
+    connect(mnuEConstraints, &QAction::triggered, this,
+            [this] { openViewForm(ViewForm::AllConstraints); });
+    connect(mnuEFonts, &QAction::triggered, this,
+            [this] { openViewForm(ViewForm::FontsAndPrinter); });
+
+    connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
+    // The engine items choose the engine in the list and press the button, so they do
+    // nothing while the button is disabled. The serial engines stand in the menu in the
+    // reverse of their order in the list.
+    connect(mnuGSmartRandom, &QAction::triggered, this, [this] { pressGenerate(0); });
+    connect(mnuGShuffled, &QAction::triggered, this, [this] { pressGenerate(1); });
+    connect(mnuGMixed, &QAction::triggered, this, [this] { pressGenerate(3); });
+    connect(mnuGHorizontal, &QAction::triggered, this, [this] { pressGenerate(2); });
+
+    // The print boxes and the engine list show what the workspace holds, and a user's change
+    // goes back into the workspace, where saving reads it.
+    connect(cmbGenerate, &QComboBox::currentIndexChanged, this,
+            [this](int index) { ws_.cmbGenerateListIndex = index; });
+    for (std::size_t i = 0; i < chkPrint.size(); ++i) {
+        QCheckBox* box = chkPrint[i];
+        connect(box, &QCheckBox::stateChanged, this, [this, box, i](int state) {
+            ws_.chkPrint[i] = valueOf(state);
+            // A greyed box comes only from a file; a user's click goes between on and off.
+            if (state != Qt::PartiallyChecked) {
+                box->setTristate(false);
+            }
+        });
+    }
+}
+
+bool frmMain::Form_Unload() {
+    if (!closeMainWindow(ws_, ctx_, *this)) {
+        return false;
+    }
+    emit programEnds();
+    return true;
+}
+
+void frmMain::mnuFExit_Click() {
+    if (exitProgram(ws_, ctx_, *this)) {
+        emit programEnds();
+    }
+}
+
+// Until a file was opened or saved, or something changed, there is nothing worth saving.
+void frmMain::mnuFile_Click() {
+    mnuFSaveAs->setEnabled(ws_.gDirty.has_value());
+}
+
+void frmMain::mnuFNew_Click() {
+    newSchedule(ws_, ctx_, *this);
+}
+
+void frmMain::mnuFOpen_Click() {
+    openScheduleFile(ws_, ctx_, *this);
+}
+
+void frmMain::mnuFSaveAs_Click() {
+    saveScheduleAs(ws_, ctx_, *this);
+}
+
+void frmMain::vscDate_Change() {
+    if (!changeMonth(ws_, ctx_, vscDate->value())) {
+        return;
+    }
+    labDate->setText(ws_.currentMonthName() + QLatin1Char(' ') + QString::number(ws_.gCurrentYear));
+    modLeaveBusyState();
+    lstAgents->setFocus();
+}
+
+void frmMain::cmdViewEdit_Click() {
+    showHourglass();
+    const std::optional<ViewForm> form = viewFormNamed(cmbViewEdit->currentText());
+    // The daily shifts, constraints and printer forms join as they are built; until then
+    // their entries leave the window as it is.
+    if (form != ViewForm::Schedule) {
+        showNormalPointer();
+        return;
+    }
+    modEnterBusyState();
+    doEvents();
+    showReview();
+}
+
+void frmMain::openViewForm(ViewForm form) {
+    showHourglass();
+    if (form == ViewForm::Schedule) {
+        modEnterBusyState();
+        doEvents();
+        showReview();
+    }
+    showNormalPointer();
+}
+
+void frmMain::pressGenerate(int listIndex) {
+    cmbGenerate->setCurrentIndex(listIndex);
+    cmdGenerate->click();
+}

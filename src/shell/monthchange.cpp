@@ -1,0 +1,45 @@
+#include "shell/monthchange.h"
+
+#include "core/model/calendar.h"
+#include "core/model/monthdata.h"
+#include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "core/services/log.h"
+#include "core/services/msgbox.h"
+#include "persistence/workspacefile.h"
+
+bool changeMonth(Workspace& ws, Context& ctx, int barValue) {
+    if ((ws.gHasHolidays == 1 || ws.gHasNotedDays == 1 || ws.gHasVacations == 1 ||
+         ws.gScheduleGenerated == 1) &&
+        msgBox(ctx.dialogs,
+               QStringLiteral("Changing the date of the calendar will erase the schedule, as "
+                              "well as all holidays, vacations, and notes.  Do you want to "
+                              "proceed anyway?"),
+               MsgIcon::Exclamation, MsgButtons::YesNo, 2) != MsgAnswer::Yes) {
+        return false;
+    }
+    eraseMonthData(ws);
+    ws.gHasHolidays = 0;
+    ws.gHasNotedDays = 0;
+    ws.gHasVacations = 0;
+    ws.gScheduleGenerated = 0;
+
+    const int delta = barValue - ws.gScrollValue;
+    ws.gScrollValue = barValue;
+    if (delta == 1 || delta == -1) {
+        ws.gCurrentMonth -= delta;
+        if (ws.gCurrentMonth < 1) {
+            ws.gCurrentMonth = 12;
+            ws.gCurrentYear -= 1;
+        } else if (ws.gCurrentMonth > 12) {
+            ws.gCurrentMonth = 1;
+            ws.gCurrentYear += 1;
+        }
+    }
+    modStatus(ws, ctx,
+              QStringLiteral("Changing the present month to ") + ws.currentMonthName() +
+                  QLatin1Char(' ') + QString::number(ws.gCurrentYear));
+    modSaveWorkspace(ws, ctx, QString());
+    modSetupMonth(ws);
+    return true;
+}

@@ -1,0 +1,232 @@
+#include "core/forms/elidedlabel.h"
+#include "core/forms/formkit.h"
+#include "core/model/calendar.h"
+#include "core/model/workspace.h"
+#include "generation/engines.h"
+#include "generation/forms/frmIndividualDay.h"
+#include "generation/forms/frmWholeCalendar.h"
+#include "mainwindow.h"
+#include "offices.h"
+
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// January 2027 begins on a Friday, in cell 5.
+constexpr int kFirstCell = 5;
+
+// The main window and the review over three agents, whose keys are their last names, in
+// January 2027. Sundays have one shift of one agent, Mondays one of three, Tuesdays two of
+// one; the agents take the positions in turn.
+struct Review : MainWindow {
+    Review() {
+        setAgents(ws, {{"Brennan", "Pat"}, {"Chen", "Wei"}, {"Delgado", "Sofia"}});
+        const std::vector<int> highestSlots[] = {{0}, {2}, {0, 0}};
+        for (int w = 0; w < 3; ++w) {
+            ws.gShiftCount[w] = static_cast<int>(highestSlots[w].size());
+            for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+                ws.gShiftAgents[w][s] = highestSlots[w][s - 1];
+            }
+        }
+        ws.gShiftText[2][2] = QStringLiteral("12:00 - 17:00");
+        int next = 0;
+        for (int d = 1; d <= 31; ++d) {
+            const int w = ws.weekdayOf(d);
+            for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+                for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                    ws.schedule(d, s, k) = ws.gAgentKey[1 + next++ % 3];
+                }
+            }
+        }
+    }
+
+    // The review as the generate command opens it, over the main window in its busy face.
+    frmWholeCalendar* show(int engine) {
+        ws.cmbGenerateListIndex = engine;
+        open();
+        main->modEnterBusyState();
+        main->showReview();
+        return main->review();
+    }
+    frmIndividualDay* editor() const { return main->review()->dayEditor(); }
+    ElidedLabel* cell(int day) const { return main->review()->labDay[day - 1 + kFirstCell]; }
+    QComboBox* list(int shift, int slot) const { return editor()->cmbShift[shift - 1][slot]; }
+    void clickDay(int day) const { QTest::mouseClick(cell(day), Qt::LeftButton); }
+};
+
+}  // namespace
+
+// The review takes the main window's place with what the engine offers. Shuffled's
+// Reschedule deals the month again. A serial engine's list opens on the agent after the
+// cursor; choosing item n, also the one shown, starts the engine again from agent n + 1 over
+// any change by hand, unless the item is the one last rebuilt for.
+TEST(ReviewForm, TheReviewOffersWhatTheEngineOffers) {
+    const struct {
+        int engine;
+        int baseAgent;
+        int agentItem;  // -1: no list
+        bool reschedule;
+        bool okCentred;
+    } cases[] = {
+        {0, 0, -1, false, true},
+        {1, 0, -1, true, false},
+        {2, 3, 0, false, false},  // a run from the last agent began with the first
+        {3, 1, 1, false, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.engine);
+        Review r;
+        r.ws.schedule(4, 1, 0) = QStringLiteral("Leave empty");
+        const std::vector<QString> before = r.ws.gSchedule;
+        r.ws.gBaseAgent = c.baseAgent;
+        frmWholeCalendar* review = r.show(c.engine);
+
+        EXPECT_FALSE(r.main->isVisible());
+        EXPECT_EQ(r.window->windowTitle(), r.main->windowTitle());
+        EXPECT_EQ(r.ws.gScheduleGenerated, 1);
+        EXPECT_EQ(r.ws.gSchedule, before);
+        EXPECT_TRUE(logged(r.ws, QStringLiteral("Viewing generated schedule")));
+        EXPECT_EQ(review->cmdReschedule->isVisible(), c.reschedule);
+        EXPECT_EQ(review->cmbAgents->isVisible(), c.agentItem >= 0);
+        EXPECT_EQ(review->cmbAgents->currentIndex(), c.agentItem);
+        EXPECT_EQ(review->labInstruction->text(),
+                  c.agentItem >= 0 ? QStringLiteral("Click on any day to view its contents.  "
+                                                    "Use the dropdown to change the initial "
+                                                    "agent.")
+                                   : QStringLiteral("Click a day to view or edit its contents."));
+        const int offset = review->cmdOK->mapTo(review, review->cmdOK->rect().center()).x() -
+                           r.cell(6)->mapTo(review, r.cell(6)->rect().center()).x();
+        EXPECT_EQ(std::abs(offset) <= 1, c.okCentred) << offset;
+
+        if (c.reschedule) {
+            QTest::mouseClick(review->cmdReschedule, Qt::LeftButton);
+            EXPECT_NE(r.ws.schedule(4, 1, 0), QStringLiteral("Leave empty"));
+            EXPECT_EQ(r.cell(3)->text(), r.ws.schedule(3, 1, 0) + QLatin1Char('\n'));
+        } else if (c.agentItem >= 0) {
+            // The item shown is chosen again: it was not the one last rebuilt for, 0.
+            r.ws.gCalendarAgentIndex = 0;
+            emit review->cmbAgents->activated(c.agentItem);
+            EXPECT_EQ(r.ws.gCalendarAgentIndex, c.agentItem);
+            EXPECT_EQ(agentIn(r.ws, 3, 1, 0), c.agentItem + 1);  // Sunday the 3rd goes first
+            EXPECT_EQ(r.cell(3)->text(), r.ws.schedule(3, 1, 0) + QLatin1Char('\n'));
+            emit review->cmbAgents->activated(c.agentItem);  // rebuilt for: nothing
+            r.ws.schedule(3, 1, 0) = QStringLiteral("Leave empty");
+            emit review->cmbAgents->activated(c.agentItem);
+            EXPECT_EQ(r.ws.schedule(3, 1, 0), QStringLiteral("Leave empty"));
+            EXPECT_FALSE(r.ws.gDirty.has_value());
+        }
+    }
+}
+
+// A press on a holiday's text or number only names it. A cell whose text does not fit shows
+// that it is cut and has the whole text as its tooltip.
+TEST(ReviewForm, HolidaysAreNamedAndCellsThatDoNotFitSaySo) {
+    Review r;
+    r.ws.gHoliday[1] = 1;
+    r.ws.gHolidayName[1] = QStringLiteral("New Year's Day");
+    r.ws.gNoted[11] = 1;
+    r.ws.gNotedText[11] = QStringLiteral("A note far longer than any cell of the calendar is");
+    frmWholeCalendar* review = r.show(0);
+    QTest::mouseClick(r.cell(1), Qt::LeftButton);
+    QTest::mouseClick(review->labNumber[kFirstCell], Qt::LeftButton);
+    EXPECT_EQ(r.s.dialogs.texts(),
+              texts({"January 1 is New Year's Day.", "January 1 is New Year's Day."}));
+    EXPECT_EQ(r.s.dialogs.shown[0].icon, MsgIcon::Information);
+    EXPECT_FALSE(r.editor()->isVisible());
+    EXPECT_TRUE(review->isVisible());
+
+    EXPECT_FALSE(r.cell(4)->isCut());
+    EXPECT_TRUE(r.cell(4)->toolTip().isEmpty());
+    EXPECT_TRUE(r.cell(11)->isCut());
+    EXPECT_EQ(r.cell(11)->toolTip(), r.cell(11)->text());
+    EXPECT_TRUE(r.cell(11)->text().endsWith(r.ws.gNotedText[11]));
+}
+
+// Days opened one after another: each shows a frame per shift and a list per slot on the
+// cell's key, and nothing of the day before. OK stores what the lists show; the close box
+// stores nothing; a key no list offers opens unselected.
+TEST(ReviewForm, TheDayEditorShowsTheDayAndOKStoresIt) {
+    Review r;
+    frmWholeCalendar* review = r.show(0);
+    const struct {
+        int day;
+        int shifts;
+        int lists;  // in each frame
+    } cases[] = {{4, 1, 3}, {5, 2, 1}, {2, 0, 0}, {3, 1, 1}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.day);
+        r.clickDay(c.day);
+        EXPECT_TRUE(r.editor()->isVisible());
+        EXPECT_FALSE(review->isVisible());
+        for (int n = 1; n <= 6; ++n) {
+            EXPECT_EQ(r.editor()->fraShift[n - 1]->isVisible(), n <= c.shifts);
+            for (int k = 0; k < 4; ++k) {
+                const bool shown = n <= c.shifts && k < c.lists;
+                EXPECT_EQ(r.list(n, k)->isVisible(), shown) << n << k;
+                if (shown) {
+                    EXPECT_EQ(r.list(n, k)->currentText(), r.ws.schedule(c.day, n, k));
+                }
+            }
+        }
+        QTest::mouseClick(r.editor()->cmdOK, Qt::LeftButton);
+    }
+    EXPECT_EQ(r.list(1, 0)->count(), 4);
+    EXPECT_TRUE(logged(r.ws, QStringLiteral("Viewing scheduled agents for January 4")));
+
+    r.ws.schedule(5, 1, 0) = QStringLiteral("Zimmer");
+    r.clickDay(5);
+    EXPECT_EQ(r.editor()->fraShift[1]->title(), QStringLiteral("Second shift: 12:00 - 17:00"));
+    EXPECT_EQ(r.list(1, 0)->currentIndex(), -1);
+    r.list(2, 0)->setCurrentIndex(3);
+    QTest::mouseClick(r.editor()->cmdOK, Qt::LeftButton);
+    EXPECT_EQ(r.ws.schedule(5, 2, 0), QStringLiteral("Leave empty"));
+    EXPECT_EQ(r.ws.gDirty, 1);
+    EXPECT_TRUE(logged(r.ws, QStringLiteral("Saving scheduled agents for January 5")));
+    EXPECT_EQ(r.cell(5)->text(), QStringLiteral("\nLeave empty\n"));
+
+    const std::vector<QString> before = r.ws.gSchedule;
+    r.clickDay(4);
+    r.list(1, 0)->setCurrentIndex(0);
+    r.window->close();
+    EXPECT_EQ(r.ws.gSchedule, before);
+    EXPECT_TRUE(review->isVisible());
+    EXPECT_FALSE(r.editor()->isVisible());
+}
+
+// OK and the close box both unload the review and its editor and give the main window back
+// its normal face. Opened again, in another month, the review shows that month alone.
+TEST(ReviewForm, LeavingTheReviewGivesTheMainWindowBack) {
+    Review r;
+    for (const bool byOK : {true, false}) {
+        SCOPED_TRACE(byOK);
+        frmWholeCalendar* review = r.show(0);
+        r.clickDay(4);
+        QTest::mouseClick(r.editor()->cmdOK, Qt::LeftButton);
+        if (byOK) {
+            QTest::mouseClick(review->cmdOK, Qt::LeftButton);
+        } else {
+            r.window->close();
+        }
+        EXPECT_FALSE(review->isLoaded());
+        EXPECT_FALSE(r.editor()->isLoaded());
+        EXPECT_TRUE(r.main->isVisible());
+        EXPECT_TRUE(r.main->cmdPrint->isEnabled());
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        EXPECT_TRUE(logged(r.ws, QStringLiteral("Closing generated schedule")));
+    }
+    r.ws.gCurrentMonth = 2;
+    modSetupMonth(r.ws);  // February 2027: 28 days from a Monday
+    r.main->showReview();
+    int shown = 0;
+    for (QLabel* label : r.main->review()->labDay) {
+        shown += label->parentWidget()->isVisible() ? 1 : 0;
+    }
+    EXPECT_EQ(shown, 28);
+    EXPECT_EQ(r.main->review()->labNumber[1]->text(), QStringLiteral("1"));
+}

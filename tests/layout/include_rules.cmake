@@ -1,0 +1,120 @@
+# Checks the rules of inclusion between the folders of src/ by reading every #include "..."
+# line. Run as: cmake -DSRC=<src folder> -P include_rules.cmake
+#
+#  1. core/model includes nothing of the project outside itself; core/services only core/.
+#  2. A subsystem's logic includes core/ and persistence/ only; persistence only core/;
+#     shell/ may include every subsystem's logic.
+#  3. Only forms/ folders and app/ include a forms/ header; cli/ includes logic only.
+#  4. No circle between folders.
+
+cmake_minimum_required(VERSION 3.25)
+
+set(subsystems persistence generation constraints printing export environment)
+
+function(folder_of path out)
+  get_filename_component(dir "${path}" DIRECTORY)
+  set(${out} "${dir}" PARENT_SCOPE)
+endfunction()
+
+function(top_of folder out)
+  string(REGEX REPLACE "/.*" "" top "${folder}")
+  set(${out} "${top}" PARENT_SCOPE)
+endfunction()
+
+function(is_forms folder out)
+  if(folder MATCHES "(^|/)forms$")
+    set(${out} TRUE PARENT_SCOPE)
+  else()
+    set(${out} FALSE PARENT_SCOPE)
+  endif()
+endfunction()
+
+# The reason a folder may not include another, or the empty text.
+function(refusal from to out)
+  set(reason "")
+  top_of("${from}" fromTop)
+  top_of("${to}" toTop)
+  is_forms("${from}" fromForms)
+  is_forms("${to}" toForms)
+  if(toForms AND NOT fromForms AND NOT from STREQUAL "app")
+    set(reason "only forms/ folders and app/ include forms")
+  elseif(from STREQUAL "core/model" AND NOT to STREQUAL "core/model")
+    set(reason "core/model includes nothing outside itself")
+  elseif(from STREQUAL "core/services" AND NOT to MATCHES "^core/(model|services)$")
+    set(reason "core/services includes only core/")
+  elseif(from STREQUAL "persistence" AND NOT toTop STREQUAL "core")
+    set(reason "persistence includes only core/")
+  elseif(fromTop IN_LIST subsystems AND NOT fromForms AND NOT fromTop STREQUAL toTop
+         AND NOT toTop STREQUAL "core" AND NOT toTop STREQUAL "persistence")
+    set(reason "a subsystem's logic includes only core/ and persistence/")
+  elseif(from STREQUAL "shell" AND NOT (toTop STREQUAL "core" OR toTop IN_LIST subsystems
+                                        OR to STREQUAL "shell"))
+    set(reason "shell/ includes core/ and the subsystems' logic")
+  elseif(from STREQUAL "cli" AND toForms)
+    set(reason "cli/ includes logic only")
+  elseif(NOT from STREQUAL "app" AND NOT from STREQUAL "cli" AND
+         (toTop STREQUAL "app" OR toTop STREQUAL "cli") AND NOT toTop STREQUAL fromTop)
+    set(reason "nothing includes the programs")
+  endif()
+  set(${out} "${reason}" PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE sources RELATIVE "${SRC}" "${SRC}/*.h" "${SRC}/*.cpp")
+set(folders "")
+set(failures "")
+foreach(source IN LISTS sources)
+  folder_of("${source}" from)
+  list(APPEND folders "${from}")
+  file(STRINGS "${SRC}/${source}" lines REGEX "^[ \t]*#[ \t]*include[ \t]*\"")
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*\"([^\"]+)\".*" "\\1" included "${line}")
+    if(NOT EXISTS "${SRC}/${included}")
+      string(APPEND failures "\n  ${source}: \"${included}\" is not a path below src/")
+      continue()
+    endif()
+    folder_of("${included}" to)
+    if(to STREQUAL from)
+      continue()
+    endif()
+    refusal("${from}" "${to}" reason)
+    if(reason)
+      string(APPEND failures "\n  ${source} includes ${included}: ${reason}")
+    endif()
+    string(MAKE_C_IDENTIFIER "${from}" fromId)
+    list(APPEND edges_${fromId} "${to}")
+  endforeach()
+endforeach()
+list(REMOVE_DUPLICATES folders)
+
+# Rule 4: a folder reached again on the path that leads to it closes a circle.
+function(visit folder path)
+  string(MAKE_C_IDENTIFIER "${folder}" id)
+  if(done_${id})
+    return()
+  endif()
+  if("${folder}" IN_LIST path)
+    list(JOIN path " -> " shown)
+    set(circle "${circle}\n  circle: ${shown} -> ${folder}" PARENT_SCOPE)
+    return()
+  endif()
+  list(APPEND path "${folder}")
+  set(next ${edges_${id}})
+  list(REMOVE_DUPLICATES next)
+  foreach(to IN LISTS next)
+    visit("${to}" "${path}")
+  endforeach()
+  set(circle "${circle}" PARENT_SCOPE)
+  set(done_${id} TRUE PARENT_SCOPE)
+endfunction()
+
+set(circle "")
+foreach(folder IN LISTS folders)
+  visit("${folder}" "")
+endforeach()
+string(APPEND failures "${circle}")
+
+if(failures)
+  message(FATAL_ERROR "The rules of inclusion are broken:${failures}")
+endif()
+list(LENGTH sources count)
+message(STATUS "${count} sources keep the rules of inclusion")

@@ -1,0 +1,91 @@
+#include "fakes.h"
+
+#include "core/model/calendar.h"
+#include "core/model/session.h"
+#include "core/services/msgbox.h"
+#include "core/services/textfile.h"
+
+#include <QFile>
+
+void PrintTo(const QString& text, std::ostream* os) {
+    *os << '"' << text.toStdString() << '"';
+}
+
+QStringList texts(std::initializer_list<const char*> list) {
+    QStringList result;
+    for (const char* text : list) {
+        result.append(QString::fromUtf8(text));
+    }
+    return result;
+}
+
+QString golden(const char* name) {
+    QFile file(QStringLiteral(DESKO_GOLDEN_DIR "/") + QString::fromUtf8(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString fileText(const QString& path) {
+    return readTextFile(path).value_or(QString());
+}
+
+bool logged(const Workspace& ws, const QString& line) {
+    return fileText(ws.gLogFile).contains(QStringLiteral("]     ") + line + QStringLiteral("\r\n"));
+}
+
+MsgAnswer ScriptedDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons buttons,
+                                      int defaultButton) {
+    shown.push_back({text, icon, buttons, defaultButton});
+    if (whileShown) {
+        whileShown();
+    }
+    if (answers.empty()) {
+        return buttons == MsgButtons::OK ? MsgAnswer::OK : MsgAnswer::Cancel;
+    }
+    const MsgAnswer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+std::optional<QString> ScriptedDialogs::openFileDialog(const FileDialog& request) {
+    return fileDialog(FileKind::Open, request);
+}
+
+std::optional<QString> ScriptedDialogs::saveFileDialog(const FileDialog& request) {
+    return fileDialog(FileKind::Save, request);
+}
+
+std::optional<QString> ScriptedDialogs::fileDialog(FileKind kind, const FileDialog& request) {
+    filesShown.push_back({kind, request});
+    if (fileAnswers.empty()) {
+        return std::nullopt;
+    }
+    std::optional<QString> answer = fileAnswers.front();
+    fileAnswers.pop_front();
+    return answer;
+}
+
+QStringList ScriptedDialogs::texts() const {
+    QStringList result;
+    for (const Shown& box : shown) {
+        result.append(box.text);
+    }
+    return result;
+}
+
+QStringList ScriptedDialogs::wrapped(const QStringList& messages) const {
+    QStringList result;
+    for (const QString& message : messages) {
+        result.append(modWrapMessage(message, *this));
+    }
+    return result;
+}
+
+void openMonth(Workspace& ws, int year, int month, const QString& home) {
+    if (!home.isEmpty()) {
+        modInitSession(ws, home);
+    }
+    modInitNameTables(ws);
+    ws.gCurrentYear = year;
+    ws.gCurrentMonth = month;
+    modSetupMonth(ws);
+}
