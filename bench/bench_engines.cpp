@@ -12,10 +12,10 @@
 // The plain SmartRandom engine of the tests, which rescans the grid for every score, runs on
 // W1 and W2 as the yardstick of the shipped one.
 
-#include "benchservices.h"
 #include "core/model/agentkeys.h"
 #include "core/model/calendar.h"
 #include "core/model/workspace.h"
+#include "fakes.h"
 #include "generation/engines.h"
 #include "generation/generate.h"
 #include "plainsmartrandom.h"
@@ -119,7 +119,7 @@ void makeLargeOffice(Workspace& ws, int agents) {
 
 struct Bench {
     QTemporaryDir dir;
-    Services services;
+    TestServices services;
     Workspace ws;
 
     explicit Bench(Office office) {

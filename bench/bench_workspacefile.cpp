@@ -9,12 +9,12 @@
 // measures that real reading and does not work around it. [Agents] (1,000 rows) and
 // [Schedule] (564 rows for January 2027) fit and are read whole.
 
-#include "benchservices.h"
 #include "core/model/agentkeys.h"
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
 #include "core/model/session.h"
 #include "core/model/workspace.h"
+#include "fakes.h"
 #include "persistence/workspacefile.h"
 
 #include <QFileInfo>
@@ -171,7 +171,7 @@ void BM_SaveScheduleFile(benchmark::State& state) {
         state.SkipWithError("no temporary directory");
         return;
     }
-    Services services;
+    TestServices services;
     Workspace ws;
     buildOffice(ws, dir.path());
     const QString path = dir.filePath(QStringLiteral("Large Office.dko"));
@@ -192,7 +192,7 @@ void BM_LoadScheduleFile(benchmark::State& state) {
         state.SkipWithError("no temporary directory");
         return;
     }
-    Services services;
+    TestServices services;
     const QString path = dir.filePath(QStringLiteral("Large Office.dko"));
     {
         Workspace office;

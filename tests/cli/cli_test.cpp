@@ -91,20 +91,6 @@ TEST_F(Cli, AnswersAndUsage) {
     }
 }
 
-TEST_F(Cli, ResavesBothExampleFilesByteForByte) {
-    for (const bool working : {false, true}) {
-        const QString in = example(working ? "Desko40.ini" : "Example Office.dko");
-        const QString out = work.filePath(QStringLiteral("out"));
-        QStringList args = {QStringLiteral("resave"), in, out};
-        if (working) {
-            args.insert(1, QStringLiteral("--working"));
-        }
-        EXPECT_EQ(run(args).code, 0);
-        EXPECT_EQ(bytesOf(out), bytesOf(in));
-        EXPECT_FALSE(bytesOf(out).isEmpty());
-    }
-}
-
 TEST_F(Cli, KeysTellAgentsOfOneNameApart) {
     const Result r = run({QStringLiteral("keys"), example("Example Office.dko")});
     EXPECT_EQ(r.code, 0);
@@ -116,47 +102,13 @@ TEST_F(Cli, KeysTellAgentsOfOneNameApart) {
     EXPECT_EQ(lines[5], QStringLiteral("6\tGarcia (R.)\tRoberto"));
 }
 
-// The schedule file's cell of a day's first position: "n=day|1|0|key".
-QString firstCellOf(const QByteArray& file, int day) {
-    const QString marker = QStringLiteral("=%1|1|0|").arg(day);
-    for (const QString& line : QString::fromUtf8(file).split(QStringLiteral("\r\n"))) {
-        if (line.contains(marker)) {
-            return line.section(QLatin1Char('|'), 3);
-        }
-    }
-    return {};
-}
-
-// The same seed deals the same schedule; each question of the command is answered Yes and
-// shown on standard error.
-TEST_F(Cli, GeneratesTheSameScheduleFromTheSameSeed) {
+// Each question of the command is answered Yes and shown on standard error; a serial engine
+// starts from the agent given, who takes the first position: Saturday the 2nd going day by
+// day, Sunday the 3rd when the weekends come first. What each engine deals from a seed is
+// held by the golden files.
+TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
     const QString in = example("Example Office.dko");
     const QString out = work.filePath(QStringLiteral("out.dko"));
-    const QString again = work.filePath(QStringLiteral("again.dko"));
-    const QString other = work.filePath(QStringLiteral("other.dko"));
-    for (const char* engine : {"smartrandom", "shuffled", "horizontal", "mixed"}) {
-        SCOPED_TRACE(engine);
-        const auto generate = [&](const QString& target, const char* seed) {
-            return run({QStringLiteral("generate"), in, target, QStringLiteral("--engine"),
-                        QString::fromUtf8(engine), QStringLiteral("--seed"),
-                        QString::fromUtf8(seed)});
-        };
-        const Result r = generate(out, "4242");
-        EXPECT_EQ(r.code, 0);
-        EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + in +
-                             QStringLiteral(": Generating a new schedule will erase the previous "
-                                            "schedule.  Would you like to proceed?\n"));
-        EXPECT_EQ(generate(again, "4242").code, 0);
-        EXPECT_EQ(bytesOf(again), bytesOf(out));
-        EXPECT_EQ(generate(other, "77").code, 0);
-        // A serial engine draws only where it starts.
-        EXPECT_NE(bytesOf(other), bytesOf(out));
-        // The 2nd is the month's first working day: the 1st is a holiday.
-        EXPECT_FALSE(firstCellOf(bytesOf(out), 2).isEmpty());
-        EXPECT_TRUE(firstCellOf(bytesOf(out), 1).isEmpty());
-    }
-    // Agent 5 takes the first position: Saturday the 2nd going day by day, Sunday the 3rd
-    // when the weekends come first.
     const struct {
         const char* engine;
         int day;
@@ -168,8 +120,13 @@ TEST_F(Cli, GeneratesTheSameScheduleFromTheSameSeed) {
                         QString::fromUtf8(c.engine), QStringLiteral("--base"),
                         QString::fromUtf8(base)});
         };
-        EXPECT_EQ(generate("5").code, 0);
-        EXPECT_EQ(firstCellOf(bytesOf(out), c.day), QStringLiteral("Garcia (M.)"));
+        const Result r = generate("5");
+        EXPECT_EQ(r.code, 0);
+        EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + in +
+                             QStringLiteral(": Generating a new schedule will erase the previous "
+                                            "schedule.  Would you like to proceed?\n"));
+        EXPECT_TRUE(QString::fromUtf8(bytesOf(out))
+                        .contains(QStringLiteral("=%1|1|0|Garcia (M.)\r\n").arg(c.day)));
         EXPECT_EQ(generate("13").code, 1);
     }
 }

@@ -4,7 +4,6 @@
 #include "fakes.h"
 #include "persistence/workspacefile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -159,31 +158,4 @@ TEST(HostileFiles, LoadWithoutHarm) {
         EXPECT_EQ(reread.gShiftAgents, ws.gShiftAgents);
         EXPECT_TRUE(s.dialogs.shown.empty());
     }
-}
-
-// A file that is not there, or is a directory, is refused as a schedule and read as an
-// empty working file; neither changes anything on disk but the working file's defaults.
-TEST(HostileFiles, MissingFilesAndDirectories) {
-    QTemporaryDir dir;
-    for (const QString& name : {QStringLiteral("absent.dko"), QStringLiteral("folder.dko")}) {
-        SCOPED_TRACE(name.toStdString());
-        QDir(dir.path()).mkdir(QStringLiteral("folder.dko"));
-        const QString path = dir.filePath(name);
-        TestServices s;
-        Workspace ws;
-        modInitNameTables(ws);
-        modInitSession(ws, dir.path());
-        ws.gAgentCount = 0;
-        modLoadWorkspace(ws, s.ctx, path);
-        EXPECT_EQ(s.dialogs.shown.size(), 1U);
-        EXPECT_FALSE(QFileInfo(path).isFile());
-
-        ws.gConfigFile = path;
-        modLoadWorkspace(ws, s.ctx, QString());
-        EXPECT_EQ(ws.gAgentCount, 0);
-        EXPECT_EQ(ws.gCalendarFont, QStringLiteral("Times New Roman"));
-    }
-    // Defaults go into a missing working file as they would into any other.
-    EXPECT_TRUE(QFileInfo(dir.filePath(QStringLiteral("absent.dko"))).isFile());
-    EXPECT_TRUE(QFileInfo(dir.filePath(QStringLiteral("folder.dko"))).isDir());
 }

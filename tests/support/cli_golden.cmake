@@ -1,7 +1,7 @@
 # One golden-file test of the headless tool: runs it on a copy of INPUT, in a folder of its
 # own, and compares the file it writes with EXPECTED byte for byte.
 #   cmake -DCLI=<tool> -DINPUT=<file> -DEXPECTED=<file> -DWORK=<folder>
-#         -DCOMMAND="resave" or "generate;--engine;E;--seed;S" -P cli_golden.cmake
+#         -DCOMMAND="resave;IN;OUT" (IN and OUT stand for the two files) -P cli_golden.cmake
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${WORK}")
@@ -9,10 +9,10 @@ file(MAKE_DIRECTORY "${WORK}/home")
 # Reading a file may write missing defaults back into it: the input stays untouched.
 file(COPY_FILE "${INPUT}" "${WORK}/in.dko")
 
-list(POP_FRONT COMMAND verb)
+list(TRANSFORM COMMAND REPLACE "^IN$" "${WORK}/in.dko")
+list(TRANSFORM COMMAND REPLACE "^OUT$" "${WORK}/out.dko")
 execute_process(
-  COMMAND "${CMAKE_COMMAND}" -E env "DESKO_HOME=${WORK}/home"
-          "${CLI}" ${verb} "${WORK}/in.dko" "${WORK}/out.dko" ${COMMAND}
+  COMMAND "${CMAKE_COMMAND}" -E env "DESKO_HOME=${WORK}/home" "${CLI}" ${COMMAND}
   RESULT_VARIABLE status
   ERROR_VARIABLE errors)
 if(NOT status EQUAL 0)

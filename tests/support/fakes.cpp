@@ -59,9 +59,13 @@ std::optional<QString> ScriptedDialogs::fileDialog(FileKind kind, const FileDial
     if (fileAnswers.empty()) {
         return std::nullopt;
     }
-    std::optional<QString> answer = fileAnswers.front();
+    const bool chosen = fileAnswers.front().has_value();
+    const QString name = fileAnswers.front().value_or(QString());
     fileAnswers.pop_front();
-    return answer;
+    if (!chosen) {
+        return std::nullopt;
+    }
+    return name;
 }
 
 QStringList ScriptedDialogs::texts() const {

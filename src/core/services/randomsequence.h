@@ -12,7 +12,8 @@ class RandomSequence {
 public:
     static constexpr std::uint32_t kStates = 1U << 24;
 
-    explicit RandomSequence(std::uint32_t state = 0) : state_(state % kStates) {}
+    RandomSequence() = default;
+    explicit RandomSequence(std::uint32_t state) : state_(state % kStates) {}
 
     // The next number in [0, 1).
     float next() {
@@ -28,7 +29,7 @@ public:
     void setState(std::uint32_t state) { state_ = state % kStates; }
 
 private:
-    std::uint32_t state_;
+    std::uint32_t state_ = 0;
 };
 
 // The state a run starts from: the seed it was given, else one taken from the time of day.

@@ -209,8 +209,7 @@ QWidget* frmMain::buildCommandFrames() {
     commandsLayout->setContentsMargins(0, 0, 0, 0);
     commandsLayout->addWidget(fraViewEdit);
     commandsLayout->addWidget(fraGenerate);
-    commandsLayout->addLayout(outputLayout);
-    commandsLayout->addStretch();
+    commandsLayout->addLayout(outputLayout, 1);
     return commands;
 }
 
