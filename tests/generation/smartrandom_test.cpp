@@ -1,4 +1,5 @@
 #include "generation/engines.h"
+#include "generation/positionwalk.h"
 
 #include "core/model/workspace.h"
 #include "fakes.h"
@@ -33,11 +34,8 @@ void makeJanuary(Workspace& ws, int agents, int weekendShifts, int weekdayShifts
 // Calls visit(day, shift, slot) for every position of the month, in the order of the sweep.
 void forEachPosition(const Workspace& ws, const std::function<void(int, int, int)>& visit) {
     for (int d = 1; d <= ws.currentMonthDays(); ++d) {
-        const int w = ws.weekdayOf(d);
-        for (int s = 1; s <= ws.gShiftCount[w] && ws.gHoliday[d] != 1; ++s) {
-            for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                visit(d, s, k);
-            }
+        if (ws.gHoliday[d] != 1) {
+            forEachPosition(ws, d, ShiftOrder::Upward, [&](int s, int k) { visit(d, s, k); });
         }
     }
 }

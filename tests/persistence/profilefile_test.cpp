@@ -2,61 +2,10 @@
 #include "fakes.h"
 #include "persistence/profileapi.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
-namespace {
-
-const QString kSample = QStringLiteral(
-    "stray=before any section\r\n"
-    "[Titles]\r\n"
-    "Calendar Title =   March 2027  \r\n"
-    "calendar notes=\"quoted\"\r\n"
-    "Office Grid Title='single'\r\n"
-    "Half=\"open\r\n"
-    "a line without an equals sign\r\n"
-    "Calendar Title=second of the name\r\n"
-    "Empty=\r\n"
-    "  [ settings ]  \r\n"
-    "Version=4.0.10\r\n"
-    "[Titles]\r\n"
-    "Later=ignored, the first section of a name counts\r\n");
-
-}  // namespace
-
-TEST(ProfileFile, ReadsValuesAsTheFormatAlwaysHas) {
-    const ProfileFile file(kSample);
-    struct Case {
-        const char* section;
-        const char* key;
-        const char* value;
-    };
-    const Case cases[] = {
-        {"Titles", "Calendar Title", "March 2027"},  // blanks trimmed, first of the name
-        {"TITLES", "CALENDAR TITLE", "March 2027"},  // names compare without case
-        {"Titles", "Calendar Notes", "quoted"},      // one pair of quotes removed
-        {"Titles", "Office Grid Title", "single"},
-        {"Titles", "Half", "\"open"},  // no pair, no removal
-        {"Titles", "Empty", ""},
-        {"Titles", "Missing", ""},
-        {"Titles", "stray", ""},  // lines before a section belong nowhere
-        {"Titles", "Later", ""},
-        {"Settings", "Version", "4.0.10"},
-        {"Nowhere", "Version", ""},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(file.value(QString::fromUtf8(c.section), QString::fromUtf8(c.key)),
-                  QString::fromUtf8(c.value))
-            << c.section << "/" << c.key;
-    }
-    EXPECT_EQ(file.keyNames(QStringLiteral("titles")),
-              QStringList({QStringLiteral("Calendar Title"), QStringLiteral("calendar notes"),
-                           QStringLiteral("Office Grid Title"), QStringLiteral("Half"),
-                           QStringLiteral("Calendar Title"), QStringLiteral("Empty")}));
-    EXPECT_TRUE(file.keyNames(QStringLiteral("Holidays")).isEmpty());
-}
+// How values are read (blanks, quotes, capitals, the first of a name, lines outside a
+// section) is the golden file persistence/golden/read/profile-rules.dko.
 
 TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest) {
     struct Case {

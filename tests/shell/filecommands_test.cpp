@@ -33,19 +33,6 @@ struct Office {
 
     QString path(const QString& name) const { return home.filePath(name); }
 
-    // The example office's schedule file, with print boxes and an engine of its own.
-    QString exampleSchedule(const char* version = "4.0.10") const {
-        QString example = fileText(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"));
-        example.replace(QStringLiteral("Printer Format=111000"),
-                        QStringLiteral("Printer Format=000111"));
-        example.replace(QStringLiteral("Scheduling Engine=0"),
-                        QStringLiteral("Scheduling Engine=3"));
-        example.replace(QStringLiteral("Version=4.0.10"),
-                        QStringLiteral("Version=") + QString::fromUtf8(version));
-        writeTextFile(path(QStringLiteral("chosen.dko")), example);
-        return path(QStringLiteral("chosen.dko"));
-    }
-
     // The working file left behind holds no schedule, and the next start reads it with the
     // same agents, without a word.
     void expectValidWorkingFile() const {
@@ -246,7 +233,7 @@ TEST(FileCommands, OpenSurvivesWhateverItIsGiven) {
         if (c.make == Make::Folder) {
             ASSERT_TRUE(QDir(office.home.path()).mkdir(QStringLiteral("chosen.dko")));
         } else if (c.make == Make::Example || c.make == Make::OtherVersion) {
-            office.exampleSchedule(c.make == Make::Example ? "4.0.10" : "3.5.2");
+            exampleSchedule(office.home.path(), c.make == Make::Example ? "4.0.10" : "3.5.2");
         } else if (c.make == Make::Bytes) {
             QFile file(name);
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -308,7 +295,7 @@ TEST(FileCommands, EveryRoadInOpensTheSameWay) {
     for (const auto& c : cases) {
         SCOPED_TRACE(static_cast<int>(c.road));
         Office office;
-        QString path = office.exampleSchedule();
+        QString path = exampleSchedule(office.home.path());
         if (c.road == Road::HiddenFile) {
             QFile::rename(path, office.path(QStringLiteral(".hidden.dko")));
             path = office.path(QStringLiteral(".hidden.dko"));

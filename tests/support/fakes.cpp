@@ -28,6 +28,18 @@ QString fileText(const QString& path) {
     return readTextFile(path).value_or(QString());
 }
 
+QString exampleSchedule(const QString& folder, const char* version) {
+    QString example = fileText(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"));
+    example.replace(QStringLiteral("Printer Format=111000"),
+                    QStringLiteral("Printer Format=000111"));
+    example.replace(QStringLiteral("Scheduling Engine=0"), QStringLiteral("Scheduling Engine=3"));
+    example.replace(QStringLiteral("Version=4.0.10"),
+                    QStringLiteral("Version=") + QString::fromUtf8(version));
+    const QString path = folder + QStringLiteral("/chosen.dko");
+    writeTextFile(path, example);
+    return path;
+}
+
 bool logged(const Workspace& ws, const QString& line) {
     return fileText(ws.gLogFile).contains(QStringLiteral("]     ") + line + QStringLiteral("\r\n"));
 }

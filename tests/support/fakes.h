@@ -27,6 +27,10 @@ QString golden(const char* name);
 // The whole text of a file, empty when there is none.
 QString fileText(const QString& path);
 
+// A copy of the example office's schedule file in the folder, as "chosen.dko", holding the
+// engine 3 and the print boxes 000111 and the version given; its full name.
+QString exampleSchedule(const QString& folder, const char* version = "4.0.10");
+
 // Whether the log holds the line, after its time stamp.
 bool logged(const Workspace& ws, const QString& line);
 

@@ -49,6 +49,29 @@ void setTable(Workspace& ws, int shifts, int agentsPerShift, int weekendShifts) 
     }
 }
 
+void setShifts(Workspace& ws, std::initializer_list<std::vector<int>> highestSlots) {
+    int w = 0;
+    for (const std::vector<int>& shifts : highestSlots) {
+        ws.gShiftCount[w] = static_cast<int>(shifts.size());
+        for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+            ws.gShiftAgents[w][s] = shifts[static_cast<std::size_t>(s - 1)];
+        }
+        ++w;
+    }
+}
+
+void dealInTurn(Workspace& ws) {
+    int next = 0;
+    for (int d = 1; d <= ws.currentMonthDays(); ++d) {
+        const int w = ws.weekdayOf(d);
+        for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
+            for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
+                ws.schedule(d, s, k) = ws.gAgentKey[1 + next++ % ws.gAgentCount];
+            }
+        }
+    }
+}
+
 void fillWithOldSchedule(Workspace& ws) {
     for (std::size_t i = 0; i < ws.gSchedule.size(); ++i) {
         ws.gSchedule[i] = QStringLiteral("old %1").arg(i);

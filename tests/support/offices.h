@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 class QTemporaryDir;
 
@@ -29,6 +30,12 @@ std::string logText(const Workspace& ws);
 // The same number of shifts, each of the same number of agents, on every weekday, or on
 // Saturdays and Sundays a number of their own.
 void setTable(Workspace& ws, int shifts, int agentsPerShift, int weekendShifts = -1);
+
+// The weekly table from Sunday on: for each weekday the highest slot of each of its shifts.
+void setShifts(Workspace& ws, std::initializer_list<std::vector<int>> highestSlots);
+
+// The agents in turn over every position of the month, from the first agent on.
+void dealInTurn(Workspace& ws);
 
 // A text of its own in every cell, for the engines to write over or leave alone.
 void fillWithOldSchedule(Workspace& ws);

@@ -44,6 +44,5 @@ class MainForm : public Form {
 
 public:
     using Form::Form;
-    virtual void modEnterBusyState() = 0;
     virtual void modLeaveBusyState() = 0;
 };

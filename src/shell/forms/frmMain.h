@@ -37,7 +37,7 @@ public:
     // the same window, fits the window to them and loads this form.
     frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString& programFile);
 
-    void modEnterBusyState() override;
+    void modEnterBusyState();
     void modLeaveBusyState() override;
     void modFillAgentList();
     void modUpdateAgentList();

@@ -1,6 +1,7 @@
 #include "core/model/agentkeys.h"
 #include "core/model/workspace.h"
 #include "fakes.h"
+#include "offices.h"
 
 #include <QStringList>
 
@@ -8,27 +9,14 @@
 
 namespace {
 
-struct Name {
-    const char* last;
-    const char* first;
-};
-
 struct Keys {
     QStringList keys;
     QStringList firstKeys;
 };
 
-Keys keysOf(std::initializer_list<Name> names) {
+Keys keysOf(std::initializer_list<std::pair<const char*, const char*>> names) {
     Workspace ws;
-    ws.gAgentCount = static_cast<int>(names.size());
-    ws.redimAgents(ws.gAgentCount);
-    int i = 0;
-    for (const Name& name : names) {
-        ++i;
-        ws.gAgentLast[i] = QString::fromUtf8(name.last);
-        ws.gAgentFirst[i] = QString::fromUtf8(name.first);
-    }
-    modBuildAgentKeys(ws);
+    setAgents(ws, names);
     Keys result;
     for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
         result.keys.append(ws.gAgentKey[agent]);
@@ -97,13 +85,7 @@ TEST(AgentKeys, NoAgentsLeaveOnlyIndexZero) {
 // holds, or nothing for an agent who is gone; otherwise the cell shows as it stands.
 TEST(AgentKeys, DesiredNameOfACell) {
     Workspace ws;
-    ws.gAgentCount = 3;
-    ws.redimAgents(3);
-    ws.gAgentLast = {QString(), QStringLiteral("Smith"), QStringLiteral("Smith"),
-                     QStringLiteral("Lee")};
-    ws.gAgentFirst = {QString(), QStringLiteral("Jane"), QStringLiteral("John"),
-                      QStringLiteral("Jane")};
-    modBuildAgentKeys(ws);  // both Smiths share "Smith (J.)"
+    setAgents(ws, {{"Smith", "Jane"}, {"Smith", "John"}, {"Lee", "Jane"}});  // one "Smith (J.)"
     struct Case {
         const char* useFirstName;
         const char* cell;

@@ -4,30 +4,14 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 // January 2027 begins on a Friday. Sundays have one shift of one agent, Mondays one of
 // three, Tuesdays two of one, Wednesdays one of four and one of five, Thursdays six of one.
 TEST(DayCaption, ShiftsTwoToALineAndNotesOnTheSixth) {
     Workspace ws;
     openMonth(ws, 2027, 1);
     setAgents(ws, {{"Brennan", "Pat"}, {"Chen", "Wei"}, {"Delgado", "Sofia"}});
-    const std::vector<int> highestSlots[] = {{0}, {2}, {0, 0}, {3, 4}, {0, 0, 0, 0, 0, 0}};
-    int next = 0;
-    for (int w = 0; w < 5; ++w) {
-        ws.gShiftCount[w] = static_cast<int>(highestSlots[w].size());
-        for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
-            ws.gShiftAgents[w][s] = highestSlots[w][s - 1];
-        }
-    }
-    for (int d = 1; d <= 31; ++d) {
-        const int w = ws.weekdayOf(d);
-        for (int s = 1; s <= ws.gShiftCount[w]; ++s) {
-            for (int k = 0; k <= ws.gShiftAgents[w][s]; ++k) {
-                ws.schedule(d, s, k) = ws.gAgentKey[1 + next++ % 3];
-            }
-        }
-    }
+    setShifts(ws, {{0}, {2}, {0, 0}, {3, 4}, {0, 0, 0, 0, 0, 0}});
+    dealInTurn(ws);
     ws.gHoliday[1] = 1;
     ws.gHolidayName[1] = QStringLiteral("New Year's Day");
     for (const int day : {2, 3, 6, 7}) {

@@ -3,16 +3,6 @@
 #include "mainwindow.h"
 #include "offices.h"
 
-#include <QAction>
-#include <QComboBox>
-#include <QFrame>
-#include <QGroupBox>
-#include <QLabel>
-#include <QListWidget>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -74,18 +64,4 @@ TEST(GenerateCommand, EachEngineFillsTheMonthAndTheReviewTakesOver) {
         EXPECT_TRUE(office.main->isVisible());
         EXPECT_FALSE(office.busy());
     }
-}
-
-// A No to the question keeps the schedule there was; nothing else opens.
-TEST(GenerateCommand, ANoKeepsTheScheduleThereWas) {
-    Office office;
-    office.ws.gScheduleGenerated = 1;
-    office.ws.schedule(4, 1, 0) = QStringLiteral("Kept");
-    office.s.dialogs.answers = {MsgAnswer::No};
-    office.main->mnuGShuffled->trigger();
-    ASSERT_EQ(office.s.dialogs.shown.size(), 1U);
-    EXPECT_EQ(office.ws.schedule(4, 1, 0), QStringLiteral("Kept"));
-    EXPECT_FALSE(office.ws.gDirty.has_value());
-    EXPECT_FALSE(office.main->review()->isVisible());
-    EXPECT_FALSE(office.busy());
 }
