@@ -41,7 +41,6 @@ void FaceWindow::addFace(Form* face) {
 }
 
 void FaceWindow::fitFaces() {
-    faces_->activate();
     QSize wanted = stage_->sizeHint().expandedTo(stage_->minimumSizeHint());
     if (const QScreen* display = screen()) {
         const QSize frame = isVisible() ? frameGeometry().size() - size() : kFrameAllowance;

@@ -1,5 +1,6 @@
 #include "generation/forms/frmWholeCalendar.h"
 
+#include "core/forms/daycell.h"
 #include "core/forms/elidedlabel.h"
 #include "core/forms/formkit.h"
 #include "core/model/daycaption.h"
@@ -14,7 +15,6 @@
 #include "generation/review.h"
 
 #include <QComboBox>
-#include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -45,10 +45,9 @@ bool isSerial(int engine) {
 }  // namespace
 
 frmWholeCalendar::frmWholeCalendar(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window)
-    : Form(window), ws_(ws), ctx_(ctx), main_(main) {
+    : Form(window), ws_(ws), ctx_(ctx), main_(main), window_(window) {
     setObjectName(QStringLiteral("frmWholeCalendar"));
     buildControls();
-    dayEditor_ = new frmIndividualDay(ws, ctx, *this, window);
 }
 
 void frmWholeCalendar::buildControls() {
@@ -66,31 +65,17 @@ void frmWholeCalendar::buildControls() {
         grid->setColumnStretch(w, 1);
     }
 
-    // A cell is a box with the day's text and, in its top right corner, the day's number.
-    const QFontMetrics metrics = fontMetrics();
-    QFont numberFont = font();
-    numberFont.setBold(true);
     for (int i = 0; i < kCells; ++i) {
-        auto* cell = new QFrame(this);
-        cell->setFrameStyle(QFrame::Box | QFrame::Plain);
-        cell->setMinimumWidth(metrics.horizontalAdvance(kCellSample) + 10);
+        auto* cell = new DayCell(kCellSample, kCellLines, this);
         // Only the month's days have a box; the others leave their place in the grid empty.
         retainSizeWhenHidden(cell);
-        auto* cellLayout = new QGridLayout(cell);
-        cellLayout->setContentsMargins(4, 2, 4, 2);
-
-        labDay[i] = new ElidedLabel(cell);
+        labDay[i] = cell->text;
         labDay[i]->setObjectName(indexedName("labDay", i));
-        labDay[i]->setMinimumHeight(kCellLines * metrics.lineSpacing());
-        labDay[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-        labNumber[i] = makeLabel(cell, "", QString());
+        labNumber[i] = cell->number;
         labNumber[i]->setObjectName(indexedName("labNumber", i));
-        labNumber[i]->setFont(numberFont);
         for (QLabel* label : {static_cast<QLabel*>(labDay[i]), labNumber[i]}) {
             label->installEventFilter(this);
         }
-        cellLayout->addWidget(labDay[i], 0, 0);
-        cellLayout->addWidget(labNumber[i], 0, 0, Qt::AlignRight | Qt::AlignTop);
         grid->addWidget(cell, kFirstWeekRow + i / kColumns, i % kColumns);
     }
     for (int row = 0; row < kRows; ++row) {
@@ -206,6 +191,9 @@ void frmWholeCalendar::labDay_MouseDown(int index) {
     show();
     doEvents();
     showNormalPointer();
+    if (dayEditor_ == nullptr) {
+        dayEditor_ = new frmIndividualDay(ws_, ctx_, *this, window_);
+    }
     dayEditor_->show();
     hide();
 }
@@ -258,7 +246,9 @@ void frmWholeCalendar::cmdOK_Click() {
 bool frmWholeCalendar::Form_Unload() {
     modStatus(ws_, ctx_, QStringLiteral("Closing generated schedule"));
     showHourglass();
-    dayEditor_->unload();
+    if (dayEditor_ != nullptr) {
+        dayEditor_->unload();
+    }
     main_.show();
     return true;
 }

@@ -43,6 +43,7 @@ public:
     // Closes the review and gives the main window back its normal face.
     void cmdOK_Click();
 
+    // The day editor, once a day has been opened.
     frmIndividualDay* dayEditor() const { return dayEditor_; }
 
     std::array<QLabel*, 7> labDayName;
@@ -65,5 +66,8 @@ private:
     Workspace& ws_;
     Context& ctx_;
     MainForm& main_;
-    frmIndividualDay* dayEditor_;
+    FaceWindow& window_;
+    // Made when a day is first opened: it is smaller than the review, so the window's size
+    // does not wait for it, and the start does not pay for its lists.
+    frmIndividualDay* dayEditor_ = nullptr;
 };

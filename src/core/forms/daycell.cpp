@@ -1,0 +1,42 @@
+#include "core/forms/daycell.h"
+
+#include "core/forms/elidedlabel.h"
+
+#include <QLabel>
+
+namespace {
+
+constexpr QMargins kPadding(4, 2, 4, 2);
+
+}  // namespace
+
+DayCell::DayCell(const QString& widthSample, int lines, QWidget* parent) : QFrame(parent) {
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    text = new ElidedLabel(this);
+    number = new QLabel(this);
+    QFont bold = font();
+    bold.setBold(true);
+    number->setFont(bold);
+    number->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    const QFontMetrics metrics = fontMetrics();
+    size_ = QSize(metrics.horizontalAdvance(widthSample), lines * metrics.lineSpacing()) +
+            QSize(kPadding.left() + kPadding.right() + 2 * frameWidth(),
+                  kPadding.top() + kPadding.bottom() + 2 * frameWidth());
+}
+
+QSize DayCell::sizeHint() const {
+    return size_;
+}
+
+QSize DayCell::minimumSizeHint() const {
+    return size_;
+}
+
+void DayCell::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    const QRect inside = contentsRect() - kPadding;
+    text->setGeometry(inside);
+    const int numberWidth = number->fontMetrics().horizontalAdvance(QStringLiteral("00"));
+    number->setGeometry(inside.right() - numberWidth + 1, inside.top(), numberWidth,
+                        number->fontMetrics().height());
+}
