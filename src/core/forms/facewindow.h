@@ -23,8 +23,6 @@ public:
     void addFace(Form* face);
     // Sizes the window for its faces, within the available area of its screen.
     void fitFaces();
-    // The visible face on top, or null.
-    Form* topFace() const;
 
 protected:
     // The window's close box closes the face on top.
@@ -32,6 +30,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The visible face on top, or null.
+    Form* topFace() const;
     void showTopCaption();
 
     QScrollArea* scroll_;

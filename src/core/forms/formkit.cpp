@@ -14,6 +14,18 @@
 
 namespace {
 
+// A caption as it is read aloud: "&Save desko schedule as..." is "Save desko schedule as...".
+QString spokenCaption(const QString& caption) {
+    QString spoken;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        if (caption[i] == QLatin1Char('&') && i + 1 < caption.size()) {
+            ++i;  // "&&" stands for one "&"; "&x" marks x as the access key
+        }
+        spoken += caption[i];
+    }
+    return spoken;
+}
+
 template <typename Control>
 Control* named(Control* control, const QString& name, const QString& spokenAs) {
     control->setObjectName(name);
@@ -25,17 +37,6 @@ Control* named(Control* control, const QString& name, const QString& spokenAs) {
 
 QString indexedName(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
-}
-
-QString spokenCaption(const QString& caption) {
-    QString spoken;
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-        if (caption[i] == QLatin1Char('&') && i + 1 < caption.size()) {
-            ++i;  // "&&" stands for one "&"; "&x" marks x as the access key
-        }
-        spoken += caption[i];
-    }
-    return spoken;
 }
 
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption) {

@@ -24,9 +24,6 @@ class QWidget;
 // The name of an element of a control array: "labDay(3)".
 QString indexedName(const char* name, int index);
 
-// A caption as it is read aloud: "&Save desko schedule as..." is "Save desko schedule as...".
-QString spokenCaption(const QString& caption);
-
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption);
 QGroupBox* makeFrame(QWidget* parent, const char* name, const QString& caption);
 QLabel* makeLabel(QWidget* parent, const char* name, const QString& caption);
