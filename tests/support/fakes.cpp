@@ -66,18 +66,32 @@ std::optional<QString> ScriptedDialogs::saveFileDialog(const FileDialog& request
     return fileDialog(FileKind::Save, request);
 }
 
+namespace {
+
+// The next of the scripted answers, nothing when they have run out.
+std::optional<QString> next(std::deque<std::optional<QString>>& answers) {
+    if (answers.empty()) {
+        return std::nullopt;
+    }
+    const bool given = answers.front().has_value();
+    const QString text = answers.front().value_or(QString());
+    answers.pop_front();
+    if (!given) {
+        return std::nullopt;
+    }
+    return text;
+}
+
+}  // namespace
+
 std::optional<QString> ScriptedDialogs::fileDialog(FileKind kind, const FileDialog& request) {
     filesShown.push_back({kind, request});
-    if (fileAnswers.empty()) {
-        return std::nullopt;
-    }
-    const bool chosen = fileAnswers.front().has_value();
-    const QString name = fileAnswers.front().value_or(QString());
-    fileAnswers.pop_front();
-    if (!chosen) {
-        return std::nullopt;
-    }
-    return name;
+    return next(fileAnswers);
+}
+
+std::optional<QString> ScriptedDialogs::inputBox(const QString& prompt, const QString& proposal) {
+    inputsShown.emplace_back(prompt, proposal);
+    return next(inputAnswers);
 }
 
 QStringList ScriptedDialogs::texts() const {

@@ -63,6 +63,10 @@ public:
     // every further file dialog is cancelled.
     std::deque<std::optional<QString>> fileAnswers;
     std::vector<FileShown> filesShown;
+    // The input boxes' answers in turn, nothing for Cancel; when they run out, Cancel. The
+    // prompts and proposals shown, in turn.
+    std::deque<std::optional<QString>> inputAnswers;
+    std::vector<std::pair<QString, QString>> inputsShown;
     // Runs while a box is up, so a test can see the state the user sees it in.
     std::function<void()> whileShown;
 
@@ -71,6 +75,7 @@ public:
     double textWidth(const QString& text) const override { return 7.0 * text.size(); }
     std::optional<QString> openFileDialog(const FileDialog& request) override;
     std::optional<QString> saveFileDialog(const FileDialog& request) override;
+    std::optional<QString> inputBox(const QString& prompt, const QString& proposal) override;
 
     // The texts of the boxes shown, each as the box showed it, broken to its width.
     QStringList texts() const;

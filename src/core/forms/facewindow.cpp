@@ -9,6 +9,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 // Room for the window's frame and title bar when its size is bounded by the screen; the
@@ -36,7 +38,6 @@ void FaceWindow::addFace(Form* face) {
     retainSizeWhenHidden(face);
     face->hide();
     faces_->addWidget(face, 0, 0);
-    face->installEventFilter(this);
     connect(face, &QWidget::windowTitleChanged, this, [this] { showTopCaption(); });
 }
 
@@ -68,14 +69,30 @@ void FaceWindow::closeEvent(QCloseEvent* event) {
     }
 }
 
-bool FaceWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Show) {
-        static_cast<QWidget*>(watched)->raise();
-        showTopCaption();
-    } else if (event->type() == QEvent::Hide) {
-        showTopCaption();
+void FaceWindow::faceShown(Form* face) {
+    face->raise();
+    activateTopFace();
+}
+
+void FaceWindow::faceHidden() {
+    activateTopFace();
+}
+
+// A form that is deactivated or activated may show or hide forms itself; each of those
+// changes activates anew, so a face is activated only while it is still the one on top.
+void FaceWindow::activateTopFace() {
+    showTopCaption();
+    Form* top = topFace();
+    if (top == active_) {
+        return;
     }
-    return QWidget::eventFilter(watched, event);
+    Form* left = std::exchange(active_, top);
+    if (left != nullptr) {
+        left->Form_Deactivate();
+    }
+    if (top != nullptr && active_ == top) {
+        top->Form_Activate();
+    }
 }
 
 void FaceWindow::showTopCaption() {

@@ -23,18 +23,24 @@ public:
     void addFace(Form* face);
     // Sizes the window for its faces, within the available area of its screen.
     void fitFaces();
+    // A face came on the screen: it goes on top and becomes the active one.
+    void faceShown(Form* face);
+    // A face left the screen: the one under it, if any, becomes the active one.
+    void faceHidden();
 
 protected:
     // The window's close box closes the face on top.
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // The visible face on top, or null.
     Form* topFace() const;
+    // Deactivates the face that was on top and activates the one that is.
+    void activateTopFace();
     void showTopCaption();
 
     QScrollArea* scroll_;
     QWidget* stage_;
     QGridLayout* faces_;
+    Form* active_ = nullptr;
 };

@@ -5,7 +5,7 @@
 #include <QCloseEvent>
 #include <QShowEvent>
 
-Form::Form(FaceWindow& window) : QWidget(nullptr) {
+Form::Form(FaceWindow& window) : QWidget(nullptr), window_(window) {
     window.addFace(this);
 }
 
@@ -31,14 +31,14 @@ void Form::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (!event->spontaneous()) {
         load();
-        Form_Activate();
+        window_.faceShown(this);
     }
 }
 
 void Form::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     if (!event->spontaneous()) {
-        Form_Deactivate();
+        window_.faceHidden();
     }
 }
 

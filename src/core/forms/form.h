@@ -5,13 +5,15 @@
 class FaceWindow;
 
 // A form of the program: one face of the program's one window. A form is made with the
-// window and lies hidden until it is shown. Showing a form that is not loaded loads it first
-// (Form_Load); each time it comes on the screen it is activated (Form_Activate), each time
-// it leaves it is deactivated (Form_Deactivate). Unloading it, or closing it by the window's
-// close box while it is on top, asks Form_Unload, which may keep it; a form unloaded leaves
-// the screen and loads afresh when it is shown again.
+// window and lies hidden until it is shown. Showing a form brings it on top, loading it first
+// when it is not loaded (Form_Load). The form on top is the active one: it is activated
+// (Form_Activate) each time it comes on top, also when a form above it leaves, and
+// deactivated (Form_Deactivate) when another comes above it or it leaves. Unloading it, or
+// closing it by the window's close box while it is on top, asks Form_Unload, which may keep
+// it; a form unloaded leaves the screen and loads afresh when it is shown again.
 class Form : public QWidget {
     Q_OBJECT
+    friend class FaceWindow;
 
 public:
     explicit Form(FaceWindow& window);
@@ -34,6 +36,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    FaceWindow& window_;
     bool loaded_ = false;
 };
 

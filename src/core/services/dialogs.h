@@ -22,7 +22,8 @@ struct FileDialog {
 };
 
 // Everything the program asks or tells the user in a box goes through this interface: the
-// program shows Qt dialogs, the tests script the answers and keep every text shown.
+// program shows Qt dialogs, the tests script the answers and keep every text shown. Where no
+// dialog can be shown, as in the headless tool, every file dialog and input box is cancelled.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
@@ -31,8 +32,14 @@ public:
                                  int defaultButton = 1) = 0;
     // The width of a text in the font of the main window's message texts, in pixels.
     virtual double textWidth(const QString& text) const = 0;
-    // The chosen file's full name, or nothing when the user cancelled. Where no dialog can
-    // be shown, as in the headless tool, every file dialog is cancelled.
+    // The chosen file's full name, or nothing when the user cancelled.
     virtual std::optional<QString> openFileDialog(const FileDialog&) { return std::nullopt; }
     virtual std::optional<QString> saveFileDialog(const FileDialog&) { return std::nullopt; }
+    // An input box with the prompt and a proposed answer, and no title of its own: the text
+    // given, or nothing when the user cancelled.
+    virtual std::optional<QString> inputBox(const QString& prompt, const QString& proposal) {
+        Q_UNUSED(prompt);
+        Q_UNUSED(proposal);
+        return std::nullopt;
+    }
 };

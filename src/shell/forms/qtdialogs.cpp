@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFontMetricsF>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -179,4 +180,15 @@ std::optional<QString> QtDialogs::openFileDialog(const FileDialog& request) {
 
 std::optional<QString> QtDialogs::saveFileDialog(const FileDialog& request) {
     return runFileDialog(request, QFileDialog::AcceptSave, parent_);
+}
+
+std::optional<QString> QtDialogs::inputBox(const QString& prompt, const QString& proposal) {
+    const NormalPointerWhileAsking pointer;
+    QInputDialog box(parent_);
+    box.setLabelText(prompt);
+    box.setTextValue(proposal);
+    if (box.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return box.textValue();
 }
