@@ -33,6 +33,14 @@ FaceWindow::FaceWindow() : QWidget(nullptr, Qt::Window) {
     layout->addWidget(scroll_);
 }
 
+FaceWindow::~FaceWindow() {
+    // A face that goes tells the window; no face is activated any more, and none of them
+    // outlives the window it would tell.
+    closing_ = true;
+    active_ = nullptr;
+    delete scroll_;
+}
+
 void FaceWindow::addFace(Form* face) {
     // Every face, shown or not, counts for the size the window needs.
     retainSizeWhenHidden(face);
@@ -81,6 +89,9 @@ void FaceWindow::faceHidden() {
 // A form that is deactivated or activated may show or hide forms itself; each of those
 // changes activates anew, so a face is activated only while it is still the one on top.
 void FaceWindow::activateTopFace() {
+    if (closing_) {
+        return;
+    }
     showTopCaption();
     Form* top = topFace();
     if (top == active_) {

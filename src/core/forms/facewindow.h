@@ -18,6 +18,8 @@ class FaceWindow : public QWidget {
 
 public:
     FaceWindow();
+    // The faces go first, while they can still reach this window.
+    ~FaceWindow() override;
 
     // Makes the form a face of this window, hidden until it is shown.
     void addFace(Form* face);
@@ -43,4 +45,5 @@ private:
     QWidget* stage_;
     QGridLayout* faces_;
     Form* active_ = nullptr;
+    bool closing_ = false;
 };
