@@ -6,6 +6,8 @@
 #include "core/model/workspace.h"
 #include "persistence/profilefile.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -417,4 +419,16 @@ void takeSavedMonth(Workspace& ws) {
         ws.gCurrentYear = *year;
     }
     modSetupMonth(ws);
+}
+
+QString storedText(const QString& text) {
+    const qsizetype lineEnd = text.indexOf(QRegularExpression(QStringLiteral("[\\r\\n]")));
+    // The reader's own rules, on a line that holds the text alone.
+    const ProfileFile line(QStringLiteral("[s]\r\nk=") + text.left(lineEnd));
+    return modReadProfileValue(line, QStringLiteral("s"), QStringLiteral("k"));
+}
+
+bool fitsInAField(const QString& text) {
+    return !text.contains(kBar) && !text.contains(QLatin1Char('\r')) &&
+           !text.contains(QLatin1Char('\n')) && text.size() <= kLongestField;
 }

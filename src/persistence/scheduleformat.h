@@ -36,3 +36,17 @@ ReadResult readScheduleFile(Workspace& ws, const ProfileFile& file, FileKind kin
 // Makes the month saved in the file, gSavedMonth and gSavedYear, the current month and
 // computes its calendar. A saved value that is no month or year leaves the current one.
 void takeSavedMonth(Workspace& ws);
+
+// A text as the file gives it back after it was written as a value: a line break ends it,
+// blanks around it go, as does one pair of surrounding quotes, and it is cut to the value
+// buffer. Storing a text in this form makes it survive a save and a read unchanged.
+QString storedText(const QString& text);
+
+// The longest text a field of a row may hold, leaving the row's other fields room in the
+// value buffer.
+inline constexpr int kLongestField = 1000;
+
+// Whether a text without blanks around it can be a field of a row and come back whole: it
+// holds no "|", which separates the fields, no line break, and no more than kLongestField
+// characters.
+bool fitsInAField(const QString& text);

@@ -44,6 +44,8 @@ FaceWindow::~FaceWindow() {
 void FaceWindow::addFace(Form* face) {
     // Every face, shown or not, counts for the size the window needs.
     retainSizeWhenHidden(face);
+    // A face covers the faces under it, also those that stay shown beneath it.
+    face->setAutoFillBackground(true);
     face->hide();
     faces_->addWidget(face, 0, 0);
     connect(face, &QWidget::windowTitleChanged, this, [this] { showTopCaption(); });

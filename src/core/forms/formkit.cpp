@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
 
 namespace {
 
@@ -58,6 +60,10 @@ QCheckBox* makeCheckBox(QWidget* parent, const QString& name, const QString& cap
     return named(new QCheckBox(caption, parent), name, spokenCaption(caption));
 }
 
+QRadioButton* makeRadioButton(QWidget* parent, const QString& name, const QString& caption) {
+    return named(new QRadioButton(caption, parent), name, spokenCaption(caption));
+}
+
 QLineEdit* makeTextBox(QWidget* parent, const char* name, const QString& spokenAs) {
     return named(new QLineEdit(parent), QLatin1String(name), spokenCaption(spokenAs));
 }
@@ -91,6 +97,12 @@ QAction* makeItem(QMenu* menu, const char* name, const QString& caption) {
 
 void makeSeparator(QMenu* menu, const char* name) {
     menu->addSeparator()->setObjectName(QLatin1String(name));
+}
+
+void cancelOnEscape(QWidget* form, QPushButton* cancel) {
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), form);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(escape, &QShortcut::activated, cancel, &QPushButton::click);
 }
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled) {

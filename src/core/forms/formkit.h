@@ -14,6 +14,7 @@ class QListWidget;
 class QMenu;
 class QMenuBar;
 class QPushButton;
+class QRadioButton;
 class QWidget;
 
 // Controls as the forms make them. Each carries its given name as its objectName, so that
@@ -28,6 +29,7 @@ QPushButton* makeButton(QWidget* parent, const char* name, const QString& captio
 QGroupBox* makeFrame(QWidget* parent, const char* name, const QString& caption);
 QLabel* makeLabel(QWidget* parent, const char* name, const QString& caption);
 QCheckBox* makeCheckBox(QWidget* parent, const QString& name, const QString& caption);
+QRadioButton* makeRadioButton(QWidget* parent, const QString& name, const QString& caption);
 QLineEdit* makeTextBox(QWidget* parent, const char* name, const QString& spokenAs);
 QComboBox* makeDropDown(QWidget* parent, const QString& name, const QString& spokenAs);
 QListWidget* makeList(QWidget* parent, const char* name, const QString& spokenAs);
@@ -36,6 +38,9 @@ QMenu* makeMenu(QMenuBar* bar, const char* name, const QString& caption);
 QMenu* makeSubmenu(QMenu* parent, const char* name, const QString& caption);
 QAction* makeItem(QMenu* menu, const char* name, const QString& caption);
 void makeSeparator(QMenu* menu, const char* name);
+
+// Escape in the form presses its Cancel button, as in any dialog.
+void cancelOnEscape(QWidget* form, QPushButton* cancel);
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
 

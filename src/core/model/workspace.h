@@ -124,9 +124,10 @@ struct Workspace {
     std::optional<int> gSelectedAgent;
     int gFocusAddButton = 0;
     int gScrollValue = 0;
-    int gDayPickerMode = 0;
+    int gDayPickerMode = 0;  // 0 holidays, 1 an agent's vacation days, 2 noted days
     int gDayPickerAgent = 0;
     int gRestrictionAgent = 0;
+    int gEditDay = 0;  // the weekday the shift editor edits; the day the day picker names
 
     // Generation and review, never saved.
     double gAgentRatio = 0;       // agents / positions of the busiest weekday, at the last generate

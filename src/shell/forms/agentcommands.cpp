@@ -3,6 +3,9 @@
 // edit. What the edit accepts and asks is the shell's agent-edit logic; here are the boxes,
 // the list and the frames.
 
+#include "constraints/daypicker.h"
+#include "constraints/forms/frmHolidays.h"
+#include "constraints/forms/frmRestrictions.h"
 #include "core/forms/formkit.h"
 #include "core/model/agentlist.h"
 #include "core/model/workspace.h"
@@ -211,8 +214,7 @@ void frmMain::cmdDelete_Click() {
 }
 
 // The constraint buttons all hang on the agent list, and each wants an agent chosen, even
-// Holidays and Notes, which concern no one agent. The day picker and the restrictions editor
-// that read the mode they set join as they are built.
+// Holidays and Notes, which concern no one agent.
 std::optional<int> frmMain::constraintAgent() {
     showHourglass();
     const int selected = lstAgents->currentRow();
@@ -220,30 +222,36 @@ std::optional<int> frmMain::constraintAgent() {
     if (!agentChosen(ctx_, selected)) {
         return std::nullopt;
     }
+    showHourglass();
     return selected + 1;
 }
 
 void frmMain::cmdVacations_Click() {
     if (const std::optional<int> agent = constraintAgent()) {
-        ws_.gDayPickerMode = 1;
+        ws_.gDayPickerMode = kPickVacations;
         ws_.gDayPickerAgent = *agent;
+        formOf(dayPicker_)->show();
     }
 }
 
 void frmMain::cmdRestrictions_Click() {
     if (const std::optional<int> agent = constraintAgent()) {
         ws_.gRestrictionAgent = *agent;
+        modEnterBusyState();
+        formOf(restrictions_)->show();
     }
 }
 
 void frmMain::cmdHolidays_Click() {
     if (constraintAgent()) {
-        ws_.gDayPickerMode = 0;
+        ws_.gDayPickerMode = kPickHolidays;
+        formOf(dayPicker_)->show();
     }
 }
 
 void frmMain::cmdNotes_Click() {
     if (constraintAgent()) {
-        ws_.gDayPickerMode = 2;
+        ws_.gDayPickerMode = kPickNotedDays;
+        formOf(dayPicker_)->show();
     }
 }

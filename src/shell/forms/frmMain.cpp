@@ -54,7 +54,7 @@ private:
 }  // namespace
 
 frmMain::frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString& programFile)
-    : MainForm(window), ws_(ws), ctx_(ctx), programFile_(programFile) {
+    : MainForm(window), ws_(ws), ctx_(ctx), programFile_(programFile), window_(window) {
     setObjectName(QStringLiteral("frmMain"));
     buildControls();
     buildMenus();

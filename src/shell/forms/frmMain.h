@@ -18,6 +18,10 @@ class QLineEdit;
 class QListWidget;
 class QMenu;
 class QPushButton;
+class frmBoth;
+class frmHolidays;
+class frmRestrictions;
+class frmViewDay;
 class frmWholeCalendar;
 struct Context;
 struct Workspace;
@@ -179,10 +183,27 @@ private:
     void showEditFrame(bool editing);
     void clearEditFrame();
     void openViewForm(ViewForm form);
+    void showViewForm(ViewForm form);
     std::optional<int> constraintAgent();
+    // A form that the main window opens, made as a face of the window the first time.
+    template <typename F>
+    F* formOf(F*& form);
 
     Workspace& ws_;
     Context& ctx_;
     QString programFile_;
+    FaceWindow& window_;
     frmWholeCalendar* review_;
+    frmViewDay* shifts_ = nullptr;
+    frmHolidays* dayPicker_ = nullptr;
+    frmRestrictions* restrictions_ = nullptr;
+    frmBoth* constraints_ = nullptr;
 };
+
+template <typename F>
+F* frmMain::formOf(F*& form) {
+    if (form == nullptr) {
+        form = new F(ws_, ctx_, *this, window_);
+    }
+    return form;
+}

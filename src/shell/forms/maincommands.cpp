@@ -2,6 +2,8 @@
 // out, the month stepper, the view/edit list and the Edit menu, the Generate menu, and the
 // print boxes and engine list that the Workspace mirrors.
 
+#include "constraints/forms/frmBoth.h"
+#include "constraints/forms/frmViewDay.h"
 #include "core/forms/formkit.h"
 #include "core/model/workspace.h"
 #include "generation/forms/frmWholeCalendar.h"
@@ -118,28 +120,43 @@ void frmMain::vscDate_Change() {
     lstAgents->setFocus();
 }
 
+// The printer setup joins with the reports; until then its entry leaves the window as it is.
 void frmMain::cmdViewEdit_Click() {
     showHourglass();
     const std::optional<ViewForm> form = viewFormNamed(cmbViewEdit->currentText());
-    // The daily shifts, constraints and printer forms join as they are built; until then
-    // their entries leave the window as it is.
-    if (form != ViewForm::Schedule) {
+    if (!form || *form == ViewForm::FontsAndPrinter) {
         showNormalPointer();
         return;
     }
     modEnterBusyState();
     doEvents();
-    showReview();
+    showViewForm(*form);
 }
 
 void frmMain::openViewForm(ViewForm form) {
     showHourglass();
-    if (form == ViewForm::Schedule) {
+    if (form != ViewForm::FontsAndPrinter) {
         modEnterBusyState();
         doEvents();
-        showReview();
+        showViewForm(form);
     }
     showNormalPointer();
+}
+
+void frmMain::showViewForm(ViewForm form) {
+    switch (form) {
+        case ViewForm::Schedule:
+            showReview();
+            break;
+        case ViewForm::DailyShifts:
+            formOf(shifts_)->show();
+            break;
+        case ViewForm::AllConstraints:
+            formOf(constraints_)->show();
+            break;
+        case ViewForm::FontsAndPrinter:
+            break;
+    }
 }
 
 void frmMain::pressGenerate(int listIndex) {

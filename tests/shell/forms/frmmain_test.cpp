@@ -55,6 +55,34 @@ bool live(const frmMain& window, const QString& name) {
     return false;
 }
 
+// Opens and closes each editor of the constraints once, so that each is a face of the window.
+void openEveryEditor(MainWindow& w) {
+    w.ws.gHoliday[1] = 1;
+    w.ws.gHolidayName[1] = QStringLiteral("New Year's Day");
+    w.ws.gHasHolidays = 1;
+    w.main->modLeaveBusyState();
+    w.main->lstAgents->setCurrentRow(0);
+    const auto ok = [&] {
+        for (auto* button : w.window->findChildren<QPushButton*>(QStringLiteral("cmdOK"))) {
+            if (button->isVisible()) {
+                return QTest::mouseClick(button, Qt::LeftButton);
+            }
+        }
+    };
+    QTest::mouseClick(w.main->cmdHolidays, Qt::LeftButton);
+    ok();
+    QTest::mouseClick(w.main->cmdRestrictions, Qt::LeftButton);
+    ok();
+    w.main->mnuEConstraints->trigger();
+    ok();
+    w.main->mnuEShifts->trigger();
+    QTest::mouseClick(w.window->findChild<QPushButton*>(QStringLiteral("cmdChange(1)")),
+                      Qt::LeftButton);
+    ok();
+    ok();
+    EXPECT_TRUE(w.main->isVisible());
+}
+
 }  // namespace
 
 // Which controls and menus are live in the normal face, for each state of the workspace, and
@@ -189,20 +217,24 @@ TEST(MainWindowForm, ViewEditListAndEditMenuOpenTheirForms) {
     withAgents(w.ws, 3);
     w.ws.gScheduleGenerated = 1;
     w.ws.gHasRestrictions = 1;
+    w.ws.gRestriction[1][1][1] = 1;
     w.open();
     QComboBox* list = w.main->cmbViewEdit;
     EXPECT_EQ(list->itemText(0), QStringLiteral("Schedule"));
     EXPECT_EQ(list->count(), 4);
     EXPECT_TRUE(w.main->mnuEConstraints->isEnabled());
     const struct {
-        int entry;      // -1: the menu item
-        QAction* item;  // or null
-        bool opens;
-    } cases[] = {{0, nullptr, true},
-                 {1, nullptr, false},
-                 {3, nullptr, false},
-                 {-1, w.main->mnuESchedule, true},
-                 {-1, w.main->mnuEFonts, false}};
+        int entry;          // -1: the menu item
+        QAction* item;      // or null
+        const char* opens;  // the form on top, or "" for none
+    } cases[] = {{0, nullptr, "frmWholeCalendar"},
+                 {1, nullptr, "frmViewDay"},
+                 {2, nullptr, "frmBoth"},
+                 {3, nullptr, ""},
+                 {-1, w.main->mnuESchedule, "frmWholeCalendar"},
+                 {-1, w.main->mnuEShifts, "frmViewDay"},
+                 {-1, w.main->mnuEConstraints, "frmBoth"},
+                 {-1, w.main->mnuEFonts, ""}};
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         if (c.item != nullptr) {
@@ -211,11 +243,14 @@ TEST(MainWindowForm, ViewEditListAndEditMenuOpenTheirForms) {
             list->setCurrentIndex(c.entry);
             QTest::mouseClick(w.main->cmdViewEdit, Qt::LeftButton);
         }
-        EXPECT_EQ(w.main->review()->isVisible(), c.opens);
-        EXPECT_EQ(w.busy(), c.opens);
+        const bool opens = *c.opens != '\0';
+        auto* form = opens ? w.window->findChild<QWidget*>(QLatin1String(c.opens)) : w.main;
+        EXPECT_TRUE(form != nullptr && form->isVisible());
+        EXPECT_EQ(w.busy(), opens);
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-        if (c.opens) {
-            QTest::mouseClick(w.main->review()->cmdOK, Qt::LeftButton);
+        if (opens) {
+            QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdOK")),
+                              Qt::LeftButton);
             EXPECT_EQ(list->currentIndex(), 0);
         }
     }
@@ -477,6 +512,14 @@ TEST(MainWindowForm, TheAgentCommands) {
         QTest::mouseClick(button, Qt::LeftButton);
         EXPECT_EQ(std::tuple(w.ws.gDayPickerMode, w.ws.gDayPickerAgent, w.ws.gRestrictionAgent),
                   std::tuple(mode, dayAgent, restrictionAgent));
+        // The editor takes the main window's place until its Cancel.
+        EXPECT_FALSE(w.main->isVisible());
+        for (auto* cancel : w.window->findChildren<QPushButton*>(QStringLiteral("cmdCancel"))) {
+            if (cancel->isVisible()) {
+                QTest::mouseClick(cancel, Qt::LeftButton);
+            }
+        }
+        EXPECT_TRUE(w.main->isVisible());
     }
 }
 
@@ -486,6 +529,7 @@ TEST(MainWindowForm, EveryControlHasANameToBeReadAloud) {
     withAgents(w.ws, 3);
     w.ws.cmbGenerateListIndex = 2;
     w.open();
+    openEveryEditor(w);
     w.main->review()->show();
     for (QWidget* control : w.window->findChildren<QWidget*>()) {
         if (control->inherits("QAbstractButton") || control->inherits("QComboBox") ||
@@ -519,9 +563,12 @@ TEST(MainWindowForm, TheFormsAreFacesOfOneWindowThatFitsTheScreen) {
     QTest::mouseClick(w.main->review()->labDay[6], Qt::LeftButton);  // the 2nd, a Saturday
     auto* scroll = w.window->findChild<QScrollArea*>();
     ASSERT_NE(scroll, nullptr);
+    QTest::mouseClick(w.main->review()->cmdOK, Qt::LeftButton);
+    openEveryEditor(w);
     const QSize stage = scroll->widget()->size();
-    for (QWidget* face : {static_cast<QWidget*>(w.main), static_cast<QWidget*>(w.main->review()),
-                          static_cast<QWidget*>(w.main->review()->dayEditor())}) {
+    const QList<Form*> faces = w.window->findChildren<Form*>();
+    EXPECT_EQ(faces.size(), 8);
+    for (Form* face : faces) {
         EXPECT_GE(stage.width(), face->minimumSizeHint().width())
             << face->objectName().toStdString();
         EXPECT_GE(stage.height(), face->minimumSizeHint().height())
