@@ -13,6 +13,15 @@ enum class Fault { None, Empty, Unstorable, Unreadable };
 
 }  // namespace
 
+QString weekdayShiftsCaption(int weekday) {
+    static const QString captions[kWeekdays] = {
+        QStringLiteral("&Sunday shifts"),   QStringLiteral("&Monday shifts"),
+        QStringLiteral("&Tuesday shifts"),  QStringLiteral("&Wednesday shifts"),
+        QStringLiteral("Thu&rsday shifts"), QStringLiteral("&Friday shifts"),
+        QStringLiteral("S&aturday shifts")};
+    return captions[weekday];
+}
+
 QString shiftLabel(const Workspace& ws, int weekday, int shift) {
     QString label = ws.gShiftText[weekday][shift];
     if (ws.gShiftAgents[weekday][shift] > 0) {

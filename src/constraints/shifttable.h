@@ -10,6 +10,9 @@ struct Context;
 
 // The rules of the weekly shift table's view and its editor of one weekday.
 
+// The caption of a weekday's frame of shifts, with its access key: "&Monday shifts".
+QString weekdayShiftsCaption(int weekday);
+
 // What the view shows of a shift: its time text, and " (xN)" for a shift of N > 1 agents.
 QString shiftLabel(const Workspace& ws, int weekday, int shift);
 

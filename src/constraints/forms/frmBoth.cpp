@@ -37,21 +37,14 @@ frmBoth::frmBoth(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window
         connect(cmdClear[k], &QPushButton::clicked, this, [this, k] { cmdClear_Click(k); });
     }
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("&OK"));
-    cmdOK->setDefault(true);
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
     // Printing the constraints comes with the reports.
     cmdPrint = makeButton(this, "cmdPrint", QStringLiteral("&Print"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdPrint);
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdCancel);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(kinds, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(closingRow(this, cmdPrint, cmdOK, cmdCancel));
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
-    cancelOnEscape(this, cmdCancel);
 }
 
 // Each opening starts from empty lists and a live Print, as a form made anew would.

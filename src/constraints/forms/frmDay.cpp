@@ -16,24 +16,6 @@
 
 namespace {
 
-// A text box that gets the focus offers its whole text for overtyping.
-class SelectAllOnFocus final : public QObject {
-public:
-    explicit SelectAllOnFocus(QLineEdit* box) : QObject(box), box_(box) {
-        box->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == box_ && event->type() == QEvent::FocusIn) {
-            modSelectAllText(box_);
-        }
-        return false;
-    }
-
-private:
-    QLineEdit* box_;
-};
-
 const QString kShiftCaptions[] = {QStringLiteral("First shift"), QStringLiteral("Second shift"),
                                   QStringLiteral("Third shift"), QStringLiteral("Fourth shift"),
                                   QStringLiteral("Fifth shift"), QStringLiteral("Sixth shift")};
@@ -67,7 +49,7 @@ frmDay::frmDay(Workspace& ws, Context& ctx, Form& view, FaceWindow& window)
         txtShift[n - 1] = makeTextBox(frame, "", kShiftCaptions[n - 1] + QStringLiteral(" time"));
         txtShift[n - 1]->setObjectName(indexedName("txtShift", n - 1));
         txtShift[n - 1]->setMaxLength(kLongestTime);
-        new SelectAllOnFocus(txtShift[n - 1]);
+        selectAllOnFocus(txtShift[n - 1]);
         auto* agents = new QHBoxLayout;
         agentGroups_[n - 1] = new QButtonGroup(this);
         const QByteArray name = QStringLiteral("optAgents%1").arg(n).toLatin1();
@@ -86,20 +68,14 @@ frmDay::frmDay(Workspace& ws, Context& ctx, Form& view, FaceWindow& window)
     }
 
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("OK"));
-    cmdOK->setDefault(true);
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdCancel);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(fraShiftsPerDay);
     layout->addLayout(shifts);
     layout->addStretch();
-    layout->addLayout(buttons);
+    layout->addLayout(closingRow(this, nullptr, cmdOK, cmdCancel));
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
-    cancelOnEscape(this, cmdCancel);
 }
 
 // The editor shows every shift the table holds, also those above the day's number, so that

@@ -68,13 +68,7 @@ frmHolidays::frmHolidays(Workspace& ws, Context& ctx, MainForm& main, FaceWindow
     retainSizeWhenHidden(cmbAgent);
     cmbAgent->hide();
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("&OK"));
-    cmdOK->setDefault(true);
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmbAgent);
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdCancel);
 
     auto* centre = new QHBoxLayout;
     centre->addStretch();
@@ -83,12 +77,11 @@ frmHolidays::frmHolidays(Workspace& ws, Context& ctx, MainForm& main, FaceWindow
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(centre);
     layout->addStretch();
-    layout->addLayout(buttons);
+    layout->addLayout(closingRow(this, cmbAgent, cmdOK, cmdCancel));
 
     connect(cmbAgent, &QComboBox::activated, this, [this] { cmbAgent_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
-    cancelOnEscape(this, cmdCancel);
 }
 
 void frmHolidays::Form_Load() {

@@ -1,5 +1,6 @@
 #include "constraints/forms/frmRestrictions.h"
 
+#include "constraints/shifttable.h"
 #include "core/forms/elidedlabel.h"
 #include "core/forms/formkit.h"
 #include "core/services/context.h"
@@ -31,14 +32,9 @@ frmRestrictions::frmRestrictions(Workspace& ws, Context& ctx, MainForm& main, Fa
     top->addWidget(cmbAgents);
     top->addWidget(labInstructions, 1);
 
-    const QString captions[] = {
-        QStringLiteral("&Sunday shifts"),   QStringLiteral("&Monday shifts"),
-        QStringLiteral("&Tuesday shifts"),  QStringLiteral("&Wednesday shifts"),
-        QStringLiteral("Thu&rsday shifts"), QStringLiteral("&Friday shifts"),
-        QStringLiteral("S&aturday shifts")};
     auto* days = new QGridLayout;
     for (int w = 0; w < kWeekdays; ++w) {
-        fraDay[w] = makeFrame(this, "", captions[w]);
+        fraDay[w] = makeFrame(this, "", weekdayShiftsCaption(w));
         fraDay[w]->setObjectName(indexedName("fraDay", w));
         auto* rows = new QGridLayout(fraDay[w]);
         const QByteArray boxName = QStringLiteral("chkShift%1").arg(w).toLatin1();
@@ -67,21 +63,15 @@ frmRestrictions::frmRestrictions(Workspace& ws, Context& ctx, MainForm& main, Fa
     }
 
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("&OK"));
-    cmdOK->setDefault(true);
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdCancel);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addLayout(days, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(closingRow(this, nullptr, cmdOK, cmdCancel));
 
     connect(cmbAgents, &QComboBox::activated, this, [this] { cmbAgents_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
-    cancelOnEscape(this, cmdCancel);
 }
 
 void frmRestrictions::Form_Load() {

@@ -16,14 +16,9 @@
 frmViewDay::frmViewDay(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window)
     : Form(window), ws_(ws), ctx_(ctx), main_(main), window_(window) {
     setObjectName(QStringLiteral("frmViewDay"));
-    const QString captions[] = {
-        QStringLiteral("&Sunday shifts"),   QStringLiteral("&Monday shifts"),
-        QStringLiteral("&Tuesday shifts"),  QStringLiteral("&Wednesday shifts"),
-        QStringLiteral("Thu&rsday shifts"), QStringLiteral("&Friday shifts"),
-        QStringLiteral("S&aturday shifts")};
     auto* days = new QGridLayout;
     for (int w = 0; w < kWeekdays; ++w) {
-        fraDay[w] = makeFrame(this, "", captions[w]);
+        fraDay[w] = makeFrame(this, "", weekdayShiftsCaption(w));
         fraDay[w]->setObjectName(indexedName("fraDay", w));
         auto* column = new QVBoxLayout(fraDay[w]);
         const QByteArray labels = QStringLiteral("labShift%1").arg(w).toLatin1();
@@ -45,21 +40,14 @@ frmViewDay::frmViewDay(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& 
         connect(cmdChange[w], &QPushButton::clicked, this, [this, w] { cmdChange_Click(w); });
     }
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("OK"));
-    cmdOK->setDefault(true);
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
     // Printing the table comes with the reports.
     cmdPrint = makeButton(this, "cmdPrint", QStringLiteral("&Print"));
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdPrint);
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
-    buttons->addWidget(cmdCancel);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(days, 1);
-    layout->addLayout(buttons);
+    layout->addLayout(closingRow(this, cmdPrint, cmdOK, cmdCancel));
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
-    cancelOnEscape(this, cmdCancel);
 }
 
 void frmViewDay::Form_Load() {

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -15,6 +17,23 @@
 #include <QShortcut>
 
 namespace {
+
+class SelectAllOnFocus final : public QObject {
+public:
+    explicit SelectAllOnFocus(QLineEdit* box) : QObject(box), box_(box) {
+        box->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == box_ && event->type() == QEvent::FocusIn) {
+            modSelectAllText(box_);
+        }
+        return false;
+    }
+
+private:
+    QLineEdit* box_;
+};
 
 // A caption as it is read aloud: "&Save desko schedule as..." is "Save desko schedule as...".
 QString spokenCaption(const QString& caption) {
@@ -99,10 +118,19 @@ void makeSeparator(QMenu* menu, const char* name) {
     menu->addSeparator()->setObjectName(QLatin1String(name));
 }
 
-void cancelOnEscape(QWidget* form, QPushButton* cancel) {
+QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel) {
+    ok->setDefault(true);
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), form);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     QObject::connect(escape, &QShortcut::activated, cancel, &QPushButton::click);
+    auto* row = new QHBoxLayout;
+    if (left != nullptr) {
+        row->addWidget(left);
+    }
+    row->addStretch();
+    row->addWidget(ok);
+    row->addWidget(cancel);
+    return row;
 }
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled) {
@@ -133,4 +161,8 @@ void doEvents() {
 
 void modSelectAllText(QLineEdit* box) {
     box->setSelection(0, static_cast<int>(box->text().size()));
+}
+
+void selectAllOnFocus(QLineEdit* box) {
+    new SelectAllOnFocus(box);
 }

@@ -8,6 +8,7 @@ class QAction;
 class QCheckBox;
 class QComboBox;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -39,8 +40,9 @@ QMenu* makeSubmenu(QMenu* parent, const char* name, const QString& caption);
 QAction* makeItem(QMenu* menu, const char* name, const QString& caption);
 void makeSeparator(QMenu* menu, const char* name);
 
-// Escape in the form presses its Cancel button, as in any dialog.
-void cancelOnEscape(QWidget* form, QPushButton* cancel);
+// The row of a form's closing buttons: what stands at its left end, if anything, then OK,
+// the default button, and Cancel, which Escape in the form presses, at its right end.
+QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel);
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
 
@@ -58,3 +60,6 @@ void doEvents();
 
 // Puts the selection over the whole text of a text box.
 void modSelectAllText(QLineEdit* box);
+
+// A text box that gets the focus offers its whole text for overtyping.
+void selectAllOnFocus(QLineEdit* box);

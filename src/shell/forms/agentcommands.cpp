@@ -23,24 +23,6 @@
 
 namespace {
 
-// A text box that gets the focus offers its whole text for overtyping.
-class SelectAllOnFocus final : public QObject {
-public:
-    explicit SelectAllOnFocus(QLineEdit* box) : QObject(box), box_(box) {
-        box->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == box_ && event->type() == QEvent::FocusIn) {
-            modSelectAllText(box_);
-        }
-        return false;
-    }
-
-private:
-    QLineEdit* box_;
-};
-
 // An underlined address is one the mail system resolved.
 void setUnderlined(QLineEdit* box, bool underlined) {
     QFont font = box->font();
@@ -63,7 +45,7 @@ void frmMain::connectAgentCommands() {
     connect(cmdNotes, &QPushButton::clicked, this, [this] { cmdNotes_Click(); });
     connect(txtEmail, &QLineEdit::textEdited, this, [this] { txtEmail_Change(); });
     for (QLineEdit* box : {txtFirstName, txtLastName, txtEmail}) {
-        new SelectAllOnFocus(box);
+        selectAllOnFocus(box);
     }
 }
 
