@@ -236,3 +236,22 @@ TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
                            QStringLiteral("    Monday, ") + ws.gShiftText[1][2],
                            QStringLiteral("    Tuesday, ") + ws.gShiftText[2][4]}));
 }
+
+// The calendar's own leap years hold a 29th of February, which is stored and read back.
+TEST(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
+    QTemporaryDir home;
+    TestServices s;
+    Workspace ws;
+    openMonth(ws, 2100, 2, home.path());
+    ws.gEditDay = 29;
+    ws.gHolidayName[29] = proposedDayName(ws);
+    savePickedDays(ws, s.ctx, [] {
+        PickedDays p{};
+        p[29] = true;
+        return p;
+    }());
+    Workspace reread;
+    openMonth(reread, 2100, 2, home.path());
+    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    EXPECT_EQ(holidayLines(reread), texts({"President's Day, February 29"}));
+}
