@@ -10,10 +10,6 @@ namespace {
 
 const QString kIndent = QStringLiteral("    ");
 
-QString agentHeading(const Workspace& ws, int agent) {
-    return ws.gAgentFirst[agent] + QLatin1Char(' ') + ws.gAgentLast[agent];
-}
-
 // Each of the agent's lines, under one heading with the agent's name; none for an agent with
 // nothing to show.
 template <typename Lines>
@@ -21,7 +17,7 @@ void addAgentLines(const Workspace& ws, QStringList& list, Lines&& linesOf) {
     for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
         const QStringList lines = linesOf(agent);
         if (!lines.isEmpty()) {
-            list.append(agentHeading(ws, agent));
+            list.append(ws.agentName(agent));
             list.append(lines);
         }
     }

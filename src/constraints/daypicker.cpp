@@ -95,19 +95,8 @@ const std::vector<Proposal>& notedDayNames() {
     return names;
 }
 
-QString agentName(const Workspace& ws, int agent) {
-    if (agent < 1 || agent > ws.gAgentCount) {
-        return QStringLiteral(" ");
-    }
-    return ws.gAgentFirst[agent] + QLatin1Char(' ') + ws.gAgentLast[agent];
-}
-
 QString monthDay(const Workspace& ws, int day) {
     return ws.currentMonthName() + QLatin1Char(' ') + QString::number(day);
-}
-
-bool hasAgent(const Workspace& ws, int agent) {
-    return agent >= 1 && agent <= ws.gAgentCount;
 }
 
 // The picks as the table of the mode; days past the month's end are left as they stand.
@@ -118,7 +107,7 @@ void storePicks(Workspace& ws, const PickedDays& picks, int mode, int agent) {
             ws.gHoliday[d] = flag;
         } else if (mode == kPickNotedDays) {
             ws.gNoted[d] = flag;
-        } else if (hasAgent(ws, agent)) {
+        } else if (ws.hasAgent(agent)) {
             ws.gVacation[agent][d] = flag;
         }
     }
@@ -131,7 +120,7 @@ QString dayPickerOpenLine(const Workspace& ws) {
         case kPickHolidays:
             return QStringLiteral("Viewing holidays in ") + ws.currentMonthName();
         case kPickVacations:
-            return QStringLiteral("Viewing vacation days for ") + agentName(ws, ws.gDayPickerAgent);
+            return QStringLiteral("Viewing vacation days for ") + ws.agentName(ws.gDayPickerAgent);
         default:
             return QStringLiteral("Viewing noted days in ") + ws.currentMonthName();
     }
@@ -142,7 +131,7 @@ QString dayPickerCaption(const Workspace& ws) {
         case kPickHolidays:
             return ws.currentMonthName() + QStringLiteral(" holidays");
         case kPickVacations:
-            return QStringLiteral("Vacation days for ") + agentName(ws, ws.gDayPickerAgent);
+            return QStringLiteral("Vacation days for ") + ws.agentName(ws.gDayPickerAgent);
         default:
             return ws.currentMonthName() + QStringLiteral(" noted days");
     }
@@ -157,7 +146,7 @@ PickedDays pickedDays(const Workspace& ws) {
                 break;
             case kPickVacations:
                 picks[d] =
-                    hasAgent(ws, ws.gDayPickerAgent) && ws.gVacation[ws.gDayPickerAgent][d] == 1;
+                    ws.hasAgent(ws.gDayPickerAgent) && ws.gVacation[ws.gDayPickerAgent][d] == 1;
                 break;
             default:
                 picks[d] = ws.gNoted[d] == 1;

@@ -9,15 +9,11 @@
 
 namespace {
 
-bool hasAgent(const Workspace& ws, int agent) {
-    return agent >= 1 && agent <= ws.gAgentCount;
-}
-
 // Only the shifts on show are written: a restriction of a shift that a weekday no longer has
 // stays in the table as it stands.
 void storeBoxes(Workspace& ws, const RestrictionBoxes& boxes) {
     const int agent = ws.gRestrictionAgent;
-    if (!hasAgent(ws, agent)) {
+    if (!ws.hasAgent(agent)) {
         return;
     }
     for (int w = 0; w < kWeekdays; ++w) {
@@ -30,16 +26,13 @@ void storeBoxes(Workspace& ws, const RestrictionBoxes& boxes) {
 }  // namespace
 
 QString restrictionsLine(const Workspace& ws) {
-    const int agent = ws.gRestrictionAgent;
-    return QStringLiteral("Viewing shift restrictions for ") +
-           (hasAgent(ws, agent) ? ws.gAgentFirst[agent] + QLatin1Char(' ') + ws.gAgentLast[agent]
-                                : QStringLiteral(" "));
+    return QStringLiteral("Viewing shift restrictions for ") + ws.agentName(ws.gRestrictionAgent);
 }
 
 RestrictionBoxes restrictionBoxes(const Workspace& ws) {
     RestrictionBoxes boxes{};
     const int agent = ws.gRestrictionAgent;
-    for (int w = 0; w < kWeekdays && hasAgent(ws, agent); ++w) {
+    for (int w = 0; w < kWeekdays && ws.hasAgent(agent); ++w) {
         for (int s = 1; s <= std::clamp(ws.gShiftCount[w], 0, kMaxShift); ++s) {
             boxes[w][s - 1] = ws.gRestriction[agent][w][s] == 1;
         }

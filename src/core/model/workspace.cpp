@@ -8,6 +8,11 @@ QString Workspace::currentMonthName() const {
     return gCurrentMonth >= 1 && gCurrentMonth <= 12 ? gMonthNames[gCurrentMonth] : QString();
 }
 
+QString Workspace::agentName(int agent) const {
+    return hasAgent(agent) ? gAgentFirst[agent] + QLatin1Char(' ') + gAgentLast[agent]
+                           : QStringLiteral(" ");
+}
+
 QString Workspace::versionText() const {
     return QStringLiteral("%1.%2.%3").arg(gVersionMajor).arg(gVersionMinor).arg(gVersionRevision);
 }

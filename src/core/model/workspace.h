@@ -149,6 +149,10 @@ struct Workspace {
     // Days and name of the current month; 0 and empty while the month is outside 1..12.
     int currentMonthDays() const;
     QString currentMonthName() const;
+    // Whether the number is one of the agents 1..gAgentCount.
+    bool hasAgent(int agent) const { return agent >= 1 && agent <= gAgentCount; }
+    // The agent's first and last name with a blank between; for no agent, the blank alone.
+    QString agentName(int agent) const;
     // The program's version as files and the log show it, "4.0.10".
     QString versionText() const;
     // Resizes every agent array to agents 0..count, clearing vacations and restrictions.
