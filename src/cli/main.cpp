@@ -1,5 +1,5 @@
 #include "cli/commands.h"
-#include "core/services/context.h"
+#include "core/services/launch.h"
 
 #include <QCoreApplication>
 
@@ -8,11 +8,5 @@ int main(int argc, char* argv[]) {
     QTextStream out(stdout);
     QTextStream err(stderr);
     // The tool's folder and random state, as the program takes them from its environment.
-    Launch launch;
-    launch.home = qEnvironmentVariable("DESKO_HOME");
-    if (launch.home.isEmpty()) {
-        launch.home = QCoreApplication::applicationDirPath();
-    }
-    launch.seed = parseSeed(qEnvironmentVariable("DESKO_SEED"));
-    return runCommand(QCoreApplication::arguments().mid(1), out, err, launch);
+    return runCommand(QCoreApplication::arguments().mid(1), out, err, launchFromEnvironment());
 }

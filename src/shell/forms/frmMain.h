@@ -83,6 +83,17 @@ public:
     void cmdGenerate_Click();
     void cmdViewEdit_Click();
 
+    // Printing: the print button, and a single report or export from the File menu.
+    void cmdPrint_Click();
+    void modPrintIndividualFormat(int position);
+    // The export button.
+    void cmdExport_Click();
+    // The Help menu.
+    void mnuHHelp_Click();
+    void mnuHDump_Click();
+    void mnuHOpenDump_Click();
+    void mnuHAbout_Click();
+
     frmWholeCalendar* review() const { return review_; }
 
     // The controls, as the other forms and commands reach them.

@@ -55,6 +55,21 @@ void frmMain::connectCommands() {
     connect(mnuEFonts, &QAction::triggered, this,
             [this] { openViewForm(ViewForm::FontsAndPrinter); });
 
+    connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
+    connect(cmdExport, &QPushButton::clicked, this, [this] { cmdExport_Click(); });
+    // Each item prints or exports one thing, whatever the boxes say.
+    const std::pair<QAction*, int> singleOutputs[] = {{mnuFPCalendar, 1},  {mnuFPGrid, 2},
+                                                      {mnuFPTearsheet, 3}, {mnuFEEmail, 4},
+                                                      {mnuFEOutlook, 5},   {mnuFECreator, 6}};
+    for (const auto& [item, position] : singleOutputs) {
+        connect(item, &QAction::triggered, this,
+                [this, position = position] { modPrintIndividualFormat(position); });
+    }
+    connect(mnuHHelp, &QAction::triggered, this, [this] { mnuHHelp_Click(); });
+    connect(mnuHDump, &QAction::triggered, this, [this] { mnuHDump_Click(); });
+    connect(mnuHOpenDump, &QAction::triggered, this, [this] { mnuHOpenDump_Click(); });
+    connect(mnuHAbout, &QAction::triggered, this, [this] { mnuHAbout_Click(); });
+
     connect(cmdGenerate, &QPushButton::clicked, this, [this] { cmdGenerate_Click(); });
     // The engine items choose the engine in the list and press the button, so they do
     // nothing while the button is disabled. The serial engines stand in the menu in the

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+// A mail account as the user's msmtp configuration describes it: the plain format that many
+// mail tools on Linux share.
+struct MailAccount {
+    QString name;
+    QString host;
+    int port = 0;  // 0: the usual port of the TLS mode, 465 for implicit TLS, else 25
+    bool tls = false;
+    bool starttls = true;  // with tls: STARTTLS on the plain port, else TLS from the start
+    bool auth = false;     // "on" or a method name
+    QString user;
+    QString password;
+    QString passwordEval;  // a command whose first line of output is the password
+    QString from;
+    QString trustFile;  // certificates to trust instead of the system's
+    bool certCheck = true;
+
+    int effectivePort() const { return port > 0 ? port : (tls && !starttls ? 465 : 25); }
+};
+
+struct MailConfig {
+    std::vector<MailAccount> accounts;  // in the order of the file
+    // The account that "account default : NAME" names, or the account called "default".
+    QString defaultName;
+};
+
+// Reads the configuration as msmtp does: "defaults" sets what every later account starts
+// from, "account NAME : OTHER, ..." starts an account and copies the settings of the
+// accounts named, "account default : NAME" makes NAME the default. Lines it does not know
+// are passed over; a value may stand in double quotes.
+MailConfig parseMailConfig(const QString& text);
+
+// The default account of the configuration file: the one "account default" names, else the
+// first; nothing when the file is missing or unreadable, or when that account has no host.
+std::optional<MailAccount> defaultMailAccount(const QString& configPath);
