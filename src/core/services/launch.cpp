@@ -26,14 +26,6 @@ QString mailConfigPath() {
     return QDir::homePath() + QStringLiteral("/.msmtprc");
 }
 
-// An installed program finds its data folder where the installation put it, relative to
-// its own folder; a program in its build tree has none there.
-QString installedDataFolder() {
-    const QString folder =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/" DESKO_DATA_FROM_PROGRAM);
-    return QFileInfo(folder).isDir() ? QDir::cleanPath(folder) : QString();
-}
-
 QString variableOr(const char* name, const QString& fallback) {
     const QString value = qEnvironmentVariable(name);
     return value.isEmpty() ? fallback : value;
@@ -41,12 +33,17 @@ QString variableOr(const char* name, const QString& fallback) {
 
 }  // namespace
 
+QString installedDataFolder(const QString& programFolder) {
+    const QString folder = programFolder + QStringLiteral("/" DESKO_DATA_FROM_PROGRAM);
+    return QFileInfo(folder).isDir() ? QDir::cleanPath(folder) : QString();
+}
+
 Launch launchFromEnvironment() {
     Launch launch;
     // An installed program's own folder is not the user's to write: the working file and
     // the log go to the user's data folder. In the build tree they stay beside the program,
     // and the help is there too.
-    const QString dataFolder = installedDataFolder();
+    const QString dataFolder = installedDataFolder(QCoreApplication::applicationDirPath());
     const QString programFolder =
         dataFolder.isEmpty() ? QCoreApplication::applicationDirPath() : dataFolder;
     launch.helpFile = programFolder + QStringLiteral("/help/index.html");

@@ -65,6 +65,29 @@ QLabel* line(QWidget* parent, const QString& text, qreal pointScale, bool bold, 
     return label;
 }
 
+// The keys held once this key is down, as the key's own press counts it: a modifier key
+// counts itself, whichever way the window system reported the state around its press.
+Qt::KeyboardModifiers heldWith(const QKeyEvent& event) {
+    Qt::KeyboardModifiers held = event.modifiers();
+    switch (event.key()) {
+        case Qt::Key_Shift:
+            held |= Qt::ShiftModifier;
+            break;
+        case Qt::Key_Control:
+            held |= Qt::ControlModifier;
+            break;
+        case Qt::Key_Alt:
+            held |= Qt::AltModifier;
+            break;
+        case Qt::Key_Meta:
+            held |= Qt::MetaModifier;
+            break;
+        default:
+            break;
+    }
+    return held & (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+}
+
 }  // namespace
 
 frmCredit::frmCredit(int lengthMs, QWidget* parent)
@@ -119,13 +142,7 @@ void frmCredit::showScene() {
 }
 
 void frmCredit::keyPressEvent(QKeyEvent* event) {
-    const Qt::KeyboardModifiers held =
-        event->modifiers() &
-        (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    // Some window systems report the Shift key's own press without its modifier.
-    const bool shiftAlone =
-        held == Qt::ShiftModifier || (event->key() == Qt::Key_Shift && held == Qt::NoModifier);
-    if (!shiftAlone) {
+    if (heldWith(*event) != Qt::ShiftModifier) {
         return;
     }
     openDumpOffered_ = true;
