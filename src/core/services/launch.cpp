@@ -26,17 +26,19 @@ QString mailConfigPath() {
     return QDir::homePath() + QStringLiteral("/.msmtprc");
 }
 
+// The data folder that an installation put beside the program's folder, as share/desko40
+// beside bin/; empty for a program that is not installed, as in its build tree.
+QString installedDataFolder(const QString& programFolder) {
+    const QString folder = programFolder + QStringLiteral("/" DESKO_DATA_FROM_PROGRAM);
+    return QFileInfo(folder).isDir() ? QDir::cleanPath(folder) : QString();
+}
+
 QString variableOr(const char* name, const QString& fallback) {
     const QString value = qEnvironmentVariable(name);
     return value.isEmpty() ? fallback : value;
 }
 
 }  // namespace
-
-QString installedDataFolder(const QString& programFolder) {
-    const QString folder = programFolder + QStringLiteral("/" DESKO_DATA_FROM_PROGRAM);
-    return QFileInfo(folder).isDir() ? QDir::cleanPath(folder) : QString();
-}
 
 Launch launchFromEnvironment() {
     Launch launch;

@@ -26,10 +26,6 @@ struct Launch {
     QString pdfDir;
 };
 
-// The data folder that an installation put beside the program's folder, as share/desko40
-// beside bin/; empty for a program that is not installed, as in its build tree.
-QString installedDataFolder(const QString& programFolder);
-
 // The launch as the environment gives it: DESKO_HOME, else for an installed program a folder
 // of the user's own data, else the program's own directory; DESKO_SEED, DESKO_SPLASH_MS, the mail
 // configuration (DESKO_MAIL_CONFIG, else msmtp's own files), DESKO_ADDRESSBOOK and DESKO_PDF_DIR,
