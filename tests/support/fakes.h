@@ -39,6 +39,8 @@ class FixedClock final : public Clock {
 public:
     QDateTime time = QDateTime(QDate(2000, 3, 21), QTime(9, 14, 3));
     QDateTime now() const override { return time; }
+    // Time passes at once.
+    void sleep(int milliseconds) override { time = time.addMSecs(milliseconds); }
 };
 
 // Message boxes and file dialogs answered from a script; every box and every file dialog

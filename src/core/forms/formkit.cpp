@@ -1,5 +1,7 @@
 #include "core/forms/formkit.h"
 
+#include "core/services/clock.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -157,6 +159,14 @@ void showNormalPointer() {
 
 void doEvents() {
     QCoreApplication::processEvents();
+}
+
+void modPause(Clock& clock, double seconds) {
+    const int tenths = qRound(seconds * 10);
+    for (int i = 0; i < tenths; ++i) {
+        clock.sleep(100);
+        doEvents();
+    }
 }
 
 void modSelectAllText(QLineEdit* box) {

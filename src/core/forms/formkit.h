@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 
+class Clock;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -57,6 +58,10 @@ void showNormalPointer();
 
 // Lets pending events run, so the screen stays alive during a long step.
 void doEvents();
+
+// Waits the given seconds in steps of a tenth, letting pending events run after each step,
+// so that the screen lives while it waits.
+void modPause(Clock& clock, double seconds);
 
 // Puts the selection over the whole text of a text box.
 void modSelectAllText(QLineEdit* box);

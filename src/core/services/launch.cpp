@@ -1,6 +1,7 @@
 #include "core/services/launch.h"
 
 #include "core/services/randomsequence.h"
+#include "core/services/textfile.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,6 +26,13 @@ QString mailConfigPath() {
     return QDir::homePath() + QStringLiteral("/.msmtprc");
 }
 
+// The data folder that an installation put beside the program's folder, as share/desko40
+// beside bin/; empty for a program that is not installed, as in its build tree.
+QString installedDataFolder(const QString& programFolder) {
+    const QString folder = programFolder + QStringLiteral("/" DESKO_DATA_FROM_PROGRAM);
+    return QFileInfo(folder).isDir() ? QDir::cleanPath(folder) : QString();
+}
+
 QString variableOr(const char* name, const QString& fallback) {
     const QString value = qEnvironmentVariable(name);
     return value.isEmpty() ? fallback : value;
@@ -34,7 +42,22 @@ QString variableOr(const char* name, const QString& fallback) {
 
 Launch launchFromEnvironment() {
     Launch launch;
-    launch.home = variableOr("DESKO_HOME", QCoreApplication::applicationDirPath());
+    // An installed program's own folder is not the user's to write: the working file and
+    // the log go to the user's data folder. In the build tree they stay beside the program,
+    // and the help is there too.
+    const QString dataFolder = installedDataFolder(QCoreApplication::applicationDirPath());
+    const QString programFolder =
+        dataFolder.isEmpty() ? QCoreApplication::applicationDirPath() : dataFolder;
+    launch.helpFile = programFolder + QStringLiteral("/help/index.html");
+    if (const QString home = qEnvironmentVariable("DESKO_HOME"); !home.isEmpty()) {
+        launch.home = home;
+    } else if (dataFolder.isEmpty()) {
+        launch.home = programFolder;
+    } else {
+        launch.home = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                      QStringLiteral("/desko");
+        launch.homeIsUserFolder = true;
+    }
     launch.seed = parseSeed(qEnvironmentVariable("DESKO_SEED"));
     bool ok = false;
     const int splashMs = qEnvironmentVariableIntValue("DESKO_SPLASH_MS", &ok);
@@ -48,4 +71,16 @@ Launch launchFromEnvironment() {
     launch.pdfDir = variableOr("DESKO_PDF_DIR",
                                QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     return launch;
+}
+
+void prepareUserFolder(const Launch& launch) {
+    if (!launch.homeIsUserFolder) {
+        return;
+    }
+    QDir().mkpath(launch.home);
+    const QString workingFile = launch.home + QStringLiteral("/Desko40.ini");
+    if (!QFileInfo::exists(workingFile) &&
+        !QFileInfo::exists(launch.home + QStringLiteral("/Desko40.log"))) {
+        writeTextFile(workingFile, QString());
+    }
 }

@@ -4,6 +4,7 @@
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
+#include "core/services/launch.h"
 #include "core/services/registrystore.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
@@ -17,6 +18,7 @@ int runProgram(QApplication& app, const Launch& launch, const std::function<void
     // The program ends only by its own two roads, never by a window closing on its own.
     QApplication::setQuitOnLastWindowClosed(false);
 
+    prepareUserFolder(launch);
     Workspace ws;
     SystemClock clock;
     QtDialogs dialogs;

@@ -18,6 +18,7 @@ class QLineEdit;
 class QListWidget;
 class QMenu;
 class QPushButton;
+class frmAbout;
 class frmBoth;
 class frmHolidays;
 class frmRestrictions;
@@ -209,6 +210,7 @@ private:
     frmHolidays* dayPicker_ = nullptr;
     frmRestrictions* restrictions_ = nullptr;
     frmBoth* constraints_ = nullptr;
+    frmAbout* about_ = nullptr;
 };
 
 template <typename F>

@@ -1,11 +1,39 @@
-// The Help menu of the main window. It joins with help, the dump and the About box.
+// The main window's Help menu: the help pages, the configuration dump both ways, and the
+// About box.
 
+#include "core/forms/formkit.h"
+#include "core/model/workspace.h"
+#include "core/services/context.h"
+#include "environment/forms/frmAbout.h"
+#include "persistence/configdump.h"
 #include "shell/forms/frmMain.h"
 
-void frmMain::mnuHHelp_Click() {}
+#include <QDesktopServices>
+#include <QLabel>
+#include <QUrl>
 
-void frmMain::mnuHDump_Click() {}
+// The help opens in the desktop's viewer for its pages, which runs on its own; whether it
+// found them is the viewer's to say.
+void frmMain::mnuHHelp_Click() {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(ctx_.launch.helpFile));
+}
 
-void frmMain::mnuHOpenDump_Click() {}
+void frmMain::mnuHDump_Click() {
+    createConfigurationDump(ws_, ctx_);
+}
 
-void frmMain::mnuHAbout_Click() {}
+// The window shows the restored agents and month; the rest of it follows at the next
+// command.
+void frmMain::mnuHOpenDump_Click() {
+    if (!openConfigurationDump(ws_, ctx_)) {
+        return;
+    }
+    modFillAgentList();
+    labDate->setText(ws_.currentMonthName() + QLatin1Char(' ') + QString::number(ws_.gCurrentYear));
+}
+
+void frmMain::mnuHAbout_Click() {
+    modEnterBusyState();
+    showHourglass();
+    formOf(about_)->show();
+}

@@ -11,6 +11,7 @@
 #include "shell/forms/frmMain.h"
 #include "shell/programstart.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -43,10 +44,13 @@ DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& programFile
     while (splash && splash->isVisible()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
+    const bool offerOpenDump = splash && splash->openDumpOffered();
     splash.reset();
 
     run.window = std::make_unique<FaceWindow>();
     run.main = new frmMain(ws, ctx, *run.window, programFile);
+    // Only the key on the splash brings it out, for this run alone.
+    run.main->mnuHOpenDump->setVisible(offerOpenDump);
     run.main->show();
     run.window->show();
     doEvents();  // the window is up and active before a file on the command line opens
