@@ -9,8 +9,7 @@
 
 namespace {
 
-const char* const kHeadings[4] = {"Vacation Days", "Shift Restrictions", "Holidays",
-                                  "Noted Days"};
+const char* const kHeadings[4] = {"Vacation Days", "Shift Restrictions", "Holidays", "Noted Days"};
 // The lists in the order they are measured, and the order they are printed in.
 constexpr int kMeasuringOrder[4] = {2, 0, 3, 1};
 constexpr int kPageOrder[4] = {0, 1, 2, 3};
@@ -81,7 +80,8 @@ bool printConstraints(const Workspace& ws, const Context& ctx, Surface& printer,
     }
 
     const double bottom = printer.CurrentY();
-    const QString title = ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear);
+    const QString title =
+        ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear);
     printer.Box(0.8, 1.0, widest + 1.2, bottom - printer.TextHeight(title));
     // The title grows to the lists' width, or to 36 points if it reaches that size on its
     // way; from above 36 only the width stops it.

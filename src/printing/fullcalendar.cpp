@@ -197,7 +197,8 @@ void printFullCalendarCopy(const Workspace& ws, const Context& ctx, Surface& pri
     printer.setFontItalic(false);
     const int mode = calendarFontMode(ws);
     if (mode == 2) {
-        modStatus(ws, ctx, QStringLiteral("Using fontsize 6 for full calendar due to configuration"));
+        modStatus(ws, ctx,
+                  QStringLiteral("Using fontsize 6 for full calendar due to configuration"));
     }
     const double rowHeight = ws.gCalendarSixRows == 1 ? 6.75 / 6 : 6.75 / 5;
     printer.setFontSize(12);

@@ -126,9 +126,9 @@ void printOfficeGridCopy(const Workspace& ws, Surface& printer) {
     // edges line up only as far as the two orders are alike in width.
     for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
         const QString label = ws.gAgentLast[agent] + QStringLiteral(", ") + ws.gAgentFirst[agent];
-        printer.setCurrentX(nameWidth - 0.1 -
-                            printer.TextWidth(ws.gAgentFirst[agent] + QStringLiteral(", ") +
-                                              ws.gAgentLast[agent]));
+        printer.setCurrentX(
+            nameWidth - 0.1 -
+            printer.TextWidth(ws.gAgentFirst[agent] + QStringLiteral(", ") + ws.gAgentLast[agent]));
         printer.setCurrentY(1 + rowHeight * (agent - 0.5) -
                             printer.TextHeight(ws.agentName(agent)) / 2);
         printer.Print(label);

@@ -1,6 +1,7 @@
 #include "printing/pdftarget.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPdfWriter>
 
@@ -13,6 +14,11 @@ QPagedPaintDevice* PdfTarget::startDocument(const QString& title,
                                             QPageLayout::Orientation orientation) {
     const QString file = naming_(title);
     files_.append(file);
+    // A file that cannot be written begins no document.
+    if (QFile probe(file); !probe.open(QIODevice::WriteOnly)) {
+        unwritten_.append(file);
+        return nullptr;
+    }
     writer_ = std::make_unique<QPdfWriter>(file);
     writer_->setTitle(title);
     writer_->setCreator(QStringLiteral("Desko"));

@@ -23,14 +23,16 @@ public:
                                      QPageLayout::Orientation orientation) override;
     void finishDocument() override;
 
-    // The files begun so far, in order.
+    // The files begun so far, in order, and those of them that could not be written.
     const QStringList& files() const { return files_; }
+    const QStringList& unwritten() const { return unwritten_; }
 
 private:
     QString deviceName_;
     Naming naming_;
     std::unique_ptr<QPdfWriter> writer_;
     QStringList files_;
+    QStringList unwritten_;
 };
 
 // The name of the printer that writes PDF files into a folder.

@@ -118,7 +118,7 @@ void savePrinterSetup(Workspace& ws, Context& ctx, const PrinterSetupFields& fie
     ws.gGridFont = orDefault(fields.gridFont, font);
     ws.gTearsheetFont = orDefault(fields.tearsheetFont, font);
     ws.gTearsheetFontsize = leadingNumber(fields.tearsheetFontsize) == 0 ? QStringLiteral("12")
-                                                                          : fields.tearsheetFontsize;
+                                                                         : fields.tearsheetFontsize;
     ws.gCalendarTitle = fields.calendarTitle;
     ws.gCalendarNotes = fields.calendarNotes;
     ws.gCalendarUseFirstName = flag(fields.calendarUseFirst);

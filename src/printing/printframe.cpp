@@ -25,7 +25,8 @@ void printCentred(Surface& printer, const QString& text, double y) {
 }  // namespace
 
 void modSetOrientation(Surface& printer, int value) {
-    if (value >= std::numeric_limits<qint16>::min() && value <= std::numeric_limits<qint16>::max()) {
+    if (value >= std::numeric_limits<qint16>::min() &&
+        value <= std::numeric_limits<qint16>::max()) {
         printer.setOrientation(value);
     }
 }

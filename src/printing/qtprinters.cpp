@@ -45,7 +45,7 @@ QStringList printerFonts() {
                                       QStringLiteral("Arimo"),
                                       QStringLiteral("Cousine")};
     for (const QString& name : {QStringLiteral("Times New Roman"), QStringLiteral("Arial"),
-                               QStringLiteral("Courier New")}) {
+                                QStringLiteral("Courier New")}) {
         if (!fonts.contains(name, Qt::CaseInsensitive) &&
             sameMeasures.contains(QFontInfo(QFont(name)).family(), Qt::CaseInsensitive)) {
             fonts.append(name);

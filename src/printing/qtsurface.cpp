@@ -117,9 +117,9 @@ void QtSurface::drawText(double x, double y, const QString& line, bool onWhite) 
     }
     const QPointF corner(x * kUnitsPerInch, y * kUnitsPerInch);
     if (onWhite) {
-        painter_.fillRect(QRectF(corner, QSizeF(metrics().horizontalAdvance(line),
-                                                metrics().lineSpacing())),
-                          Qt::white);
+        painter_.fillRect(
+            QRectF(corner, QSizeF(metrics().horizontalAdvance(line), metrics().lineSpacing())),
+            Qt::white);
     }
     painter_.drawText(corner + QPointF(0.0, metrics().ascent()), line);
 }

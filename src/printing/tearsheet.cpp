@@ -69,10 +69,9 @@ struct SlipGrid {
 
 SlipGrid slipGrid(const Workspace& ws, Surface& printer) {
     SlipGrid grid{};
-    grid.lineWidth =
-        widestDutyLine(ws, printer) + 4 * printer.TextWidth(QStringLiteral("   "));
-    grid.slipHeight = printer.TextHeight(QStringLiteral("M\n").repeated(mostDuties(ws)) +
-                                         QStringLiteral("\n\n"));
+    grid.lineWidth = widestDutyLine(ws, printer) + 4 * printer.TextWidth(QStringLiteral("   "));
+    grid.slipHeight =
+        printer.TextHeight(QStringLiteral("M\n").repeated(mostDuties(ws)) + QStringLiteral("\n\n"));
     grid.rows = slipsAcross(kPageHeight, grid.slipHeight);
     grid.cols = slipsAcross(kPageWidth, grid.lineWidth);
     grid.cellHeight = kPageHeight / grid.rows;

@@ -32,8 +32,7 @@ QString traceNumber(double value) {
     return text == QStringLiteral("-0") ? QStringLiteral("0") : text;
 }
 
-TracingSurface::TracingSurface(Surface& inner, Sink sink)
-    : inner_(inner), sink_(std::move(sink)) {}
+TracingSurface::TracingSurface(Surface& inner, Sink sink) : inner_(inner), sink_(std::move(sink)) {}
 
 void TracingSurface::write(const QString& line) const {
     sink_(line);

@@ -4,7 +4,9 @@
 #include "core/forms/formkit.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
+#include "core/services/printers.h"
 #include "persistence/workspacefile.h"
+#include "printing/dailyshifts.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -41,13 +43,13 @@ frmViewDay::frmViewDay(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& 
     }
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("OK"));
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
-    // Printing the table comes with the reports.
     cmdPrint = makeButton(this, "cmdPrint", QStringLiteral("&Print"));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(days, 1);
     layout->addLayout(closingRow(this, cmdPrint, cmdOK, cmdCancel));
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+    connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
 }
 
 void frmViewDay::Form_Load() {
@@ -99,4 +101,27 @@ void frmViewDay::cmdCancel_Click() {
     restoreShiftSnapshot(ws_, snapshot_);
     modSaveWorkspace(ws_, ctx_, QString());
     unload();
+}
+
+// The table on paper. While it prints the times are grey and the view's commands are dead.
+void frmViewDay::cmdPrint_Click() {
+    if (ctx_.printers == nullptr) {
+        return;
+    }
+    showHourglass();
+    const auto setPrinting = [this](bool printing) {
+        for (int w = 0; w < kWeekdays; ++w) {
+            for (QLabel* label : labShift[w]) {
+                QPalette colours = label->palette();
+                colours.setColor(QPalette::WindowText, printing ? Qt::darkGray : Qt::black);
+                label->setPalette(colours);
+            }
+            setEnabledAll({fraDay[w], cmdChange[w]}, !printing);
+        }
+        setEnabledAll({cmdCancel, cmdPrint}, !printing);
+    };
+    setPrinting(true);
+    printDailyShifts(ws_, ctx_, ctx_.printers->printer());
+    setPrinting(false);
+    showNormalPointer();
 }

@@ -20,6 +20,7 @@ class QMenu;
 class QPushButton;
 class frmBoth;
 class frmHolidays;
+class frmPSetup;
 class frmRestrictions;
 class frmViewDay;
 class frmWholeCalendar;
@@ -209,6 +210,7 @@ private:
     frmHolidays* dayPicker_ = nullptr;
     frmRestrictions* restrictions_ = nullptr;
     frmBoth* constraints_ = nullptr;
+    frmPSetup* printerSetup_ = nullptr;
 };
 
 template <typename F>
