@@ -230,11 +230,11 @@ TEST(MainWindowForm, ViewEditListAndEditMenuOpenTheirForms) {
     } cases[] = {{0, nullptr, "frmWholeCalendar"},
                  {1, nullptr, "frmViewDay"},
                  {2, nullptr, "frmBoth"},
-                 {3, nullptr, ""},
+                 {3, nullptr, "frmPSetup"},
                  {-1, w.main->mnuESchedule, "frmWholeCalendar"},
                  {-1, w.main->mnuEShifts, "frmViewDay"},
                  {-1, w.main->mnuEConstraints, "frmBoth"},
-                 {-1, w.main->mnuEFonts, ""}};
+                 {-1, w.main->mnuEFonts, "frmPSetup"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         if (c.item != nullptr) {
