@@ -213,7 +213,7 @@ void frmPSetup::cmdOK_Click() {
     fields.calendarFont = cmbCalendarFont->currentText();
     fields.gridFont = cmbGridFont->currentText();
     fields.tearsheetFont = cmbTearsheetFont->currentText();
-    // What is typed without choosing an entry does not count.
+    // The entry chosen counts: a size typed that is no entry of the list does not.
     const int size = cmbTearsheetFontsize->currentIndex();
     fields.tearsheetFontsize = size >= 0 ? cmbTearsheetFontsize->itemText(size) : QString();
     fields.calendarTitle = txtCalendarTitle->text();

@@ -80,6 +80,8 @@ void openEveryEditor(MainWindow& w) {
                       Qt::LeftButton);
     ok();
     ok();
+    w.main->mnuEFonts->trigger();
+    ok();
     EXPECT_TRUE(w.main->isVisible());
 }
 
@@ -567,7 +569,7 @@ TEST(MainWindowForm, TheFormsAreFacesOfOneWindowThatFitsTheScreen) {
     openEveryEditor(w);
     const QSize stage = scroll->widget()->size();
     const QList<Form*> faces = w.window->findChildren<Form*>();
-    EXPECT_EQ(faces.size(), 8);
+    EXPECT_EQ(faces.size(), 9);
     for (Form* face : faces) {
         EXPECT_GE(stage.width(), face->minimumSizeHint().width())
             << face->objectName().toStdString();
