@@ -3,8 +3,6 @@
 #include "cli/session.h"
 #include "constraints/allconstraints.h"
 #include "core/services/printers.h"
-#include "printing/constraintsreport.h"
-#include "printing/dailyshifts.h"
 #include "printing/pdftarget.h"
 #include "printing/printcommand.h"
 #include "printing/printview.h"
@@ -84,18 +82,15 @@ public:
 };
 
 void printReport(Workspace& ws, Context& ctx, int report) {
-    Surface& printer = ctx.printers->printer();
     if (report <= 2) {
         lightOneOutput(ws, report + 1);
         NoView view;
         printSchedule(ws, ctx, view);
     } else if (report == 3) {
-        ctx.printers->setDocumentTitle(documentTitle(ws, QStringLiteral("Daily shifts")));
-        printDailyShifts(ws, ctx, printer);
+        printShiftTable(ws, ctx);
     } else {
-        ctx.printers->setDocumentTitle(documentTitle(ws, QStringLiteral("Constraints")));
-        printConstraints(
-            ws, ctx, printer,
+        printConstraintLists(
+            ws, ctx,
             {vacationLines(ws), restrictionLines(ws), holidayLines(ws), notedDayLines(ws)});
     }
 }

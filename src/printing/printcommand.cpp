@@ -8,6 +8,7 @@
 #include "core/services/surface.h"
 #include "persistence/scheduleformat.h"
 #include "persistence/workspacefile.h"
+#include "printing/dailyshifts.h"
 #include "printing/fullcalendar.h"
 #include "printing/officegrid.h"
 #include "printing/printframe.h"
@@ -74,6 +75,21 @@ void printSchedule(Workspace& ws, Context& ctx, PrintView& view) {
     }
     restoreLeaveEmptyCells(ws);
     view.endPrinting();
+}
+
+void printShiftTable(const Workspace& ws, Context& ctx) {
+    if (ctx.printers != nullptr) {
+        ctx.printers->setDocumentTitle(documentTitle(ws, QStringLiteral("Daily shifts")));
+        printDailyShifts(ws, ctx, ctx.printers->printer());
+    }
+}
+
+bool printConstraintLists(const Workspace& ws, Context& ctx, const ConstraintLists& lists) {
+    if (ctx.printers == nullptr) {
+        return true;
+    }
+    ctx.printers->setDocumentTitle(documentTitle(ws, QStringLiteral("Constraints")));
+    return printConstraints(ws, ctx, ctx.printers->printer(), lists);
 }
 
 QString lightOneOutput(Workspace& ws, int position) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "printing/constraintsreport.h"
+
 #include <QString>
 
 class PrintView;
@@ -17,6 +19,12 @@ void printSchedule(Workspace& ws, Context& ctx, PrintView& view);
 // for a single command; gives the boxes' own format, to be put back by restoreOutputs.
 QString lightOneOutput(Workspace& ws, int position);
 void restoreOutputs(Workspace& ws, const QString& format);
+
+// The weekly shift table and the lists of constraints on the current printer, their
+// documents named after the report. The second is false where the report ends early, as it
+// does when every list is empty.
+void printShiftTable(const Workspace& ws, Context& ctx);
+bool printConstraintLists(const Workspace& ws, Context& ctx, const ConstraintLists& lists);
 
 // The name of a report's documents: the month, the year and the report.
 QString documentTitle(const Workspace& ws, const QString& report);

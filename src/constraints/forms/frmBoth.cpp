@@ -4,8 +4,7 @@
 #include "core/forms/formkit.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
-#include "core/services/printers.h"
-#include "printing/constraintsreport.h"
+#include "printing/printcommand.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -115,9 +114,6 @@ void frmBoth::setLive(bool live) {
 // The lists as they stand, on paper. The form is dead while it prints; when every list is
 // empty nothing is printed and it stays so, under the hourglass, until it is closed.
 void frmBoth::cmdPrint_Click() {
-    if (ctx_.printers == nullptr) {
-        return;
-    }
     showHourglass();
     setLive(false);
     ConstraintLists lists;
@@ -126,7 +122,7 @@ void frmBoth::cmdPrint_Click() {
             lists[k].append(lstDays[k]->item(i)->text());
         }
     }
-    if (printConstraints(ws_, ctx_, ctx_.printers->printer(), lists)) {
+    if (printConstraintLists(ws_, ctx_, lists)) {
         setLive(true);
         showNormalPointer();
     }

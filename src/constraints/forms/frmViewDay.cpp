@@ -4,9 +4,8 @@
 #include "core/forms/formkit.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
-#include "core/services/printers.h"
 #include "persistence/workspacefile.h"
-#include "printing/dailyshifts.h"
+#include "printing/printcommand.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -105,9 +104,6 @@ void frmViewDay::cmdCancel_Click() {
 
 // The table on paper. While it prints the times are grey and the view's commands are dead.
 void frmViewDay::cmdPrint_Click() {
-    if (ctx_.printers == nullptr) {
-        return;
-    }
     showHourglass();
     const auto setPrinting = [this](bool printing) {
         for (int w = 0; w < kWeekdays; ++w) {
@@ -121,7 +117,7 @@ void frmViewDay::cmdPrint_Click() {
         setEnabledAll({cmdCancel, cmdPrint}, !printing);
     };
     setPrinting(true);
-    printDailyShifts(ws_, ctx_, ctx_.printers->printer());
+    printShiftTable(ws_, ctx_);
     setPrinting(false);
     showNormalPointer();
 }

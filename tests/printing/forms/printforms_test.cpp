@@ -78,6 +78,7 @@ TEST(PrintForms, TheEditorsPrintTheirReports) {
     auto* shifts = w.window->findChild<frmViewDay*>();
     QTest::mouseClick(shifts->cmdPrint, Qt::LeftButton);
     EXPECT_EQ(w.printers.device.documents, 1);
+    EXPECT_EQ(w.printers.titles, texts({"January 2027 Daily shifts"}));
     EXPECT_TRUE(shifts->cmdCancel->isEnabled());
     QTest::mouseClick(shifts->cmdOK, Qt::LeftButton);
 
@@ -95,5 +96,6 @@ TEST(PrintForms, TheEditorsPrintTheirReports) {
     EXPECT_TRUE(all->cmdOK->isEnabled());
     QTest::mouseClick(all->cmdPrint, Qt::LeftButton);
     EXPECT_EQ(w.printers.device.documents, 2);
+    EXPECT_EQ(w.printers.titles.last(), QStringLiteral("January 2027 Constraints"));
     EXPECT_TRUE(all->cmdOK->isEnabled());
 }
