@@ -66,6 +66,12 @@ void showText(QComboBox* combo, const QString& text) {
     combo->setEditText(text);
 }
 
+// A text box shows its text from the start.
+void showText(QLineEdit* box, const QString& text) {
+    box->setText(text);
+    box->setCursorPosition(0);
+}
+
 // Fills a font list with the offered fonts and chooses the setting, which falls back to the
 // first font when it is not among them.
 void fillFonts(const Workspace& ws, QComboBox* combo, QString& setting) {
@@ -178,19 +184,19 @@ void frmPSetup::Form_Activate() {
     showText(cmbTearsheetFontsize, fields.tearsheetFontsize);
     chkCalendarUseFirst->setChecked(fields.calendarUseFirst);
     chkCalendarHideTime->setChecked(fields.calendarHideTime);
-    txtCalendarTitle->setText(fields.calendarTitle);
-    txtCalendarNotes->setText(fields.calendarNotes);
+    showText(txtCalendarTitle, fields.calendarTitle);
+    showText(txtCalendarNotes, fields.calendarNotes);
     showText(cmbCalendarFont, fields.calendarFont);
-    txtGridTitle->setText(fields.gridTitle);
-    txtGridNotes->setText(fields.gridNotes);
+    showText(txtGridTitle, fields.gridTitle);
+    showText(txtGridNotes, fields.gridNotes);
     showText(cmbGridFont, fields.gridFont);
-    txtCalendarCopies->setText(fields.calendarCopies);
-    txtGridCopies->setText(fields.gridCopies);
+    showText(txtCalendarCopies, fields.calendarCopies);
+    showText(txtGridCopies, fields.gridCopies);
     showText(cmbTearsheetFont, fields.tearsheetFont);
-    txtEmailSubject->setText(fields.emailSubject);
-    txtEmailBody->setText(fields.emailBody);
-    txtOutlookSubject->setText(fields.outlookSubject);
-    txtOutlookBody->setText(fields.outlookBody);
+    showText(txtEmailSubject, fields.emailSubject);
+    showText(txtEmailBody, fields.emailBody);
+    showText(txtOutlookSubject, fields.outlookSubject);
+    showText(txtOutlookBody, fields.outlookBody);
     showNormalPointer();
     cmdOK->setFocus();
 }
