@@ -10,7 +10,7 @@ namespace {
 // The painter works in twentieths of a point, so that every size the printer holds is a
 // whole number of its units.
 constexpr double kUnitsPerInch = 1440.0;
-constexpr double kPenWidth = 7.0;
+constexpr double kPenWidth = 3.0;
 
 QColor colorOf(int color) {
     return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
