@@ -23,14 +23,6 @@
 
 namespace {
 
-class NoView final : public PrintView {
-public:
-    void beginPrinting(const QString&) override {}
-    void showPrintStatus(const QString&) override {}
-    void doEvents() override {}
-    void endPrinting() override {}
-};
-
 // A month of the office with the printer writing one PDF file again and again.
 struct PrintedOffice {
     explicit PrintedOffice(int agents) {
@@ -54,15 +46,15 @@ struct PrintedOffice {
         ws.gTearsheetFontsize = QStringLiteral("8");
         const QString file = dir.filePath(QStringLiteral("report.pdf"));
         std::vector<std::unique_ptr<PageTarget>> targets;
-        targets.push_back(std::make_unique<PdfTarget>(printToPdfName(),
-                                                      [file](const QString&) { return file; }));
+        targets.push_back(
+            std::make_unique<PdfTarget>(printToPdfName(), [file](const QString&) { return file; }));
         printers = std::make_unique<QtPrinters>(std::move(targets), 0, printerFonts());
         s.ctx.printers = printers.get();
     }
 
     void printSchedule(std::array<int, 3> boxes) {
         std::copy(boxes.begin(), boxes.end(), ws.chkPrint.begin());
-        NoView view;
+        NoPrintView view;
         ::printSchedule(ws, s.ctx, view);
     }
 

@@ -72,19 +72,10 @@ private:
     std::optional<TracingSurface> tracing_;
 };
 
-// The tool has no window to show the command's progress in.
-class NoView final : public PrintView {
-public:
-    void beginPrinting(const QString&) override {}
-    void showPrintStatus(const QString&) override {}
-    void doEvents() override {}
-    void endPrinting() override {}
-};
-
 void printReport(Workspace& ws, Context& ctx, int report) {
     if (report <= 2) {
         lightOneOutput(ws, report + 1);
-        NoView view;
+        NoPrintView view;
         printSchedule(ws, ctx, view);
     } else if (report == 3) {
         printShiftTable(ws, ctx);

@@ -10,9 +10,8 @@
 namespace {
 
 const char* const kHeadings[4] = {"Vacation Days", "Shift Restrictions", "Holidays", "Noted Days"};
-// The lists in the order they are measured, and the order they are printed in.
+// The order in which the lists are measured; they are printed in their own order.
 constexpr int kMeasuringOrder[4] = {2, 0, 3, 1};
-constexpr int kPageOrder[4] = {0, 1, 2, 3};
 
 // The lines the lists take: a heading, the lines, a blank line after each list, and one at
 // the end.
@@ -38,7 +37,7 @@ double printLists(Surface& printer, const ConstraintLists& lists) {
     printer.setCurrentX(1.0);
     printer.setCurrentY(1.2);
     double widest = 0;
-    for (const int k : kPageOrder) {
+    for (int k = 0; k < 4; ++k) {
         if (lists[k].isEmpty()) {
             continue;
         }

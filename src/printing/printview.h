@@ -17,3 +17,12 @@ public:
     // The month comes back in the status's place, and the window's normal face.
     virtual void endPrinting() = 0;
 };
+
+// Where the command has no window to show its progress in.
+class NoPrintView final : public PrintView {
+public:
+    void beginPrinting(const QString&) override {}
+    void showPrintStatus(const QString&) override {}
+    void doEvents() override {}
+    void endPrinting() override {}
+};
