@@ -143,10 +143,7 @@ void writeRestrictions(Workspace& ws, Writer& out) {
 void writeSettings(Workspace& ws, Writer& out) {
     out.section(kSettings);
     out.line(QStringLiteral("Version=") + ws.versionText());
-    ws.gPrinterFormat.clear();
-    for (const int value : ws.chkPrint) {
-        ws.gPrinterFormat += QString::number(value);
-    }
+    takePrinterFormat(ws);
     out.line(QStringLiteral("Current Month=") + QString::number(ws.gCurrentMonth));
     out.line(QStringLiteral("Current Year=") + QString::number(ws.gCurrentYear));
     out.line(QStringLiteral("Printer Format=") + ws.gPrinterFormat);
@@ -313,8 +310,6 @@ ProfileValues applyTitleDefaults(Workspace& ws) {
     return written;
 }
 
-// The print boxes take the digits of the format; a digit that no box can show leaves its
-// box as it was.
 void applySettings(Workspace& ws) {
     if (ws.gEngine < 0 || ws.gEngine > 3) {
         ws.gEngine = 0;
@@ -323,12 +318,7 @@ void applySettings(Workspace& ws) {
     if (ws.gPrinterFormat.size() != 6) {
         ws.gPrinterFormat = kDefaultPrinterFormat;
     }
-    for (int i = 0; i < 6; ++i) {
-        const int digit = ws.gPrinterFormat[i].digitValue();
-        if (digit >= 0 && digit <= 2) {
-            ws.chkPrint[i] = digit;
-        }
-    }
+    showPrinterFormat(ws);
 }
 
 // The schedule is not cleared first: a cell the file does not name keeps what it held.
@@ -431,4 +421,20 @@ QString storedText(const QString& text) {
 bool fitsInAField(const QString& text) {
     return !text.contains(kBar) && !text.contains(QLatin1Char('\r')) &&
            !text.contains(QLatin1Char('\n')) && text.size() <= kLongestField;
+}
+
+void takePrinterFormat(Workspace& ws) {
+    ws.gPrinterFormat.clear();
+    for (const int value : ws.chkPrint) {
+        ws.gPrinterFormat += QString::number(value);
+    }
+}
+
+void showPrinterFormat(Workspace& ws) {
+    for (int i = 0; i < 6 && i < ws.gPrinterFormat.size(); ++i) {
+        const int digit = ws.gPrinterFormat[i].digitValue();
+        if (digit >= 0 && digit <= 2) {
+            ws.chkPrint[i] = digit;
+        }
+    }
 }

@@ -33,6 +33,12 @@ struct ReadResult {
 // skipped, a month that is no month left as it was.
 ReadResult readScheduleFile(Workspace& ws, const ProfileFile& file, FileKind kind);
 
+// gPrinterFormat from the six print boxes, one digit each.
+void takePrinterFormat(Workspace& ws);
+// The print boxes take the digits of gPrinterFormat; a digit that no box can show leaves its
+// box as it was.
+void showPrinterFormat(Workspace& ws);
+
 // Makes the month saved in the file, gSavedMonth and gSavedYear, the current month and
 // computes its calendar. A saved value that is no month or year leaves the current one.
 void takeSavedMonth(Workspace& ws);

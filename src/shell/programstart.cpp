@@ -8,6 +8,7 @@
 #include "core/services/log.h"
 #include "persistence/storecheck.h"
 #include "persistence/workspacefile.h"
+#include "printing/printersetup.h"
 #include "shell/startmonth.h"
 
 #include <QLockFile>
@@ -28,4 +29,5 @@ void prepareWorkspace(Workspace& ws, Context& ctx, const QString& commandLine) {
     modBuildAgentKeys(ws);
     modStartMonth(ws, ctx);
     modSetupMonth(ws);
+    modFillFontTable(ws, ctx);
 }

@@ -15,5 +15,5 @@ std::unique_ptr<QLockFile> claimProgramDirectory(const QString& appPath, bool& o
 
 // The start-up's work behind the splash: the session in the launch's folder, the name
 // tables, the check of the working file, the log's run header, the working file read, the
-// agents' keys, the coming month and its calendar.
+// agents' keys, the coming month and its calendar, the printer's font table.
 void prepareWorkspace(Workspace& ws, Context& ctx, const QString& commandLine);

@@ -144,6 +144,14 @@ TEST_F(Cli, FailuresNameTheFileOnOneLine) {
         {{QStringLiteral("keys"), missing}, missing, QStringLiteral("cannot be read")},
         {{QStringLiteral("keys"), work.path()}, work.path(), QStringLiteral("cannot be read")},
         {{QStringLiteral("resave"), dko, nowhere}, nowhere, QStringLiteral("cannot be written")},
+        {{QStringLiteral("print"), missing, QStringLiteral("--report"), QStringLiteral("grid"),
+          QStringLiteral("--pdf"), nowhere},
+         missing,
+         QStringLiteral("cannot be read")},
+        {{QStringLiteral("print"), dko, QStringLiteral("--report"), QStringLiteral("grid"),
+          QStringLiteral("--pdf"), nowhere},
+         nowhere,
+         QStringLiteral("cannot be written")},
         {{QStringLiteral("resave"), old, work.filePath(QStringLiteral("new.dko"))},
          old,
          QStringLiteral("The file you are attempting to open cannot be read by this version of "
@@ -159,6 +167,26 @@ TEST_F(Cli, FailuresNameTheFileOnOneLine) {
     }
     EXPECT_FALSE(QFile::exists(work.filePath(QStringLiteral("new.dko"))));
     EXPECT_EQ(fileText(old), QString::fromUtf8(text));
+}
+
+// A report as PDF files, one a document, and the trace of every call to the printer.
+TEST_F(Cli, PrintWritesAReportAsPdfFiles) {
+    const QString out = work.filePath(QStringLiteral("slips.pdf"));
+    const QString trace = work.filePath(QStringLiteral("slips.trace"));
+    const Result r = run({QStringLiteral("print"), example("Example Office.dko"),
+                          QStringLiteral("--report"), QStringLiteral("tearsheet"),
+                          QStringLiteral("--pdf"), out, QStringLiteral("--trace"), trace});
+    EXPECT_EQ(r.code, 0);
+    EXPECT_EQ(r.err, QString());
+    for (const char* file : {"slips.pdf", "slips-2.pdf"}) {
+        QFile pdf(work.filePath(QString::fromUtf8(file)));
+        ASSERT_TRUE(pdf.open(QIODevice::ReadOnly)) << file;
+        EXPECT_TRUE(pdf.read(5) == "%PDF-");
+    }
+    EXPECT_FALSE(QFile::exists(work.filePath(QStringLiteral("slips-3.pdf"))));
+    const QStringList calls = fileText(trace).split(QLatin1Char('\n'));
+    EXPECT_EQ(calls.filter(QStringLiteral("Print \"Brennan, Patrick\"  ' at (")).size(), 1);
+    EXPECT_EQ(calls.count(QStringLiteral("EndDoc")), 3);
 }
 
 }  // namespace

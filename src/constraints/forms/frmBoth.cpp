@@ -4,6 +4,7 @@
 #include "core/forms/formkit.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
+#include "printing/printcommand.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -38,23 +39,23 @@ frmBoth::frmBoth(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window
     }
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("&OK"));
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
-    // Printing the constraints comes with the reports.
     cmdPrint = makeButton(this, "cmdPrint", QStringLiteral("&Print"));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(kinds, 1);
     layout->addLayout(closingRow(this, cmdPrint, cmdOK, cmdCancel));
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+    connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
 }
 
-// Each opening starts from empty lists and a live Print, as a form made anew would.
+// Each opening starts from empty lists and live controls, as a form made anew would.
 void frmBoth::Form_Load() {
     modStatus(ws_, ctx_, QStringLiteral("Viewing all constraints"));
     setWindowTitle(main_.windowTitle());
     for (QListWidget* list : lstDays) {
         list->clear();
     }
-    cmdPrint->setEnabled(true);
+    setLive(true);
 }
 
 // The lists are filled once an opening: the main window stays hidden behind this form, so
@@ -99,4 +100,30 @@ void frmBoth::cmdOK_Click() {
 
 void frmBoth::cmdCancel_Click() {
     unload();
+}
+
+void frmBoth::setLive(bool live) {
+    setEnabledAll({cmdOK, cmdCancel, cmdPrint, fraVacationDays, fraShiftRestrictions, fraHolidays,
+                   fraNotedDays},
+                  live);
+    for (int k = 0; k < 4; ++k) {
+        setEnabledAll({lstDays[k], cmdClear[k]}, live);
+    }
+}
+
+// The lists as they stand, on paper. The form is dead while it prints; when every list is
+// empty nothing is printed and it stays so, under the hourglass, until it is closed.
+void frmBoth::cmdPrint_Click() {
+    showHourglass();
+    setLive(false);
+    ConstraintLists lists;
+    for (int k = 0; k < 4; ++k) {
+        for (int i = 0; i < lstDays[k]->count(); ++i) {
+            lists[k].append(lstDays[k]->item(i)->text());
+        }
+    }
+    if (printConstraintLists(ws_, ctx_, lists)) {
+        setLive(true);
+        showNormalPointer();
+    }
 }

@@ -24,6 +24,7 @@ public:
     void cmdClear_Click(int index);
     void cmdOK_Click();
     void cmdCancel_Click();
+    void cmdPrint_Click();
 
     QGroupBox* fraVacationDays;
     QGroupBox* fraShiftRestrictions;
@@ -40,6 +41,9 @@ protected:
     bool Form_Unload() override;
 
 private:
+    // The form's controls all live, or all dead while it prints.
+    void setLive(bool live);
+
     Workspace& ws_;
     Context& ctx_;
     MainForm& main_;

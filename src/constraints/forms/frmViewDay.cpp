@@ -5,6 +5,7 @@
 #include "core/services/context.h"
 #include "core/services/log.h"
 #include "persistence/workspacefile.h"
+#include "printing/printcommand.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -41,13 +42,13 @@ frmViewDay::frmViewDay(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& 
     }
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("OK"));
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
-    // Printing the table comes with the reports.
     cmdPrint = makeButton(this, "cmdPrint", QStringLiteral("&Print"));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(days, 1);
     layout->addLayout(closingRow(this, cmdPrint, cmdOK, cmdCancel));
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+    connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
 }
 
 void frmViewDay::Form_Load() {
@@ -99,4 +100,24 @@ void frmViewDay::cmdCancel_Click() {
     restoreShiftSnapshot(ws_, snapshot_);
     modSaveWorkspace(ws_, ctx_, QString());
     unload();
+}
+
+// The table on paper. While it prints the times are grey and the view's commands are dead.
+void frmViewDay::cmdPrint_Click() {
+    showHourglass();
+    const auto setPrinting = [this](bool printing) {
+        for (int w = 0; w < kWeekdays; ++w) {
+            for (QLabel* label : labShift[w]) {
+                QPalette colours = label->palette();
+                colours.setColor(QPalette::WindowText, printing ? Qt::darkGray : Qt::black);
+                label->setPalette(colours);
+            }
+            setEnabledAll({fraDay[w], cmdChange[w]}, !printing);
+        }
+        setEnabledAll({cmdCancel, cmdPrint}, !printing);
+    };
+    setPrinting(true);
+    printShiftTable(ws_, ctx_);
+    setPrinting(false);
+    showNormalPointer();
 }

@@ -28,6 +28,7 @@ public:
     void cmdChange_Click(int weekday);
     void cmdOK_Click();
     void cmdCancel_Click();
+    void cmdPrint_Click();
 
     // The weekday editor, once a weekday has been opened.
     frmDay* dayEditor() const { return day_; }

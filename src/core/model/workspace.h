@@ -136,6 +136,10 @@ struct Workspace {
     int gInitialAgent = 0;        // the review's agent list index handed to an engine
     int gSelectedDay = 0;         // the day last clicked in the review
 
+    // Printing and export, never saved.
+    std::vector<QString> gPrinterFonts;  // the printer's font names, filled at start-up
+    QString gExportResults;              // failure lines of the running export channel
+
     QString& schedule(int day, int shift, int slot) {
         return gSchedule[scheduleIndex(day, shift, slot)];
     }

@@ -6,6 +6,7 @@
 
 class Clock;
 class Dialogs;
+class Printers;
 class RegistryStore;
 
 // The services every part of the program uses, passed in beside the Workspace.
@@ -16,4 +17,6 @@ struct Context {
     Environment env;
     RandomSequence random{};
     Launch launch{};
+    // The printers of the run; none where nothing can be printed.
+    Printers* printers = nullptr;
 };

@@ -5,7 +5,9 @@
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/launch.h"
+#include "core/services/printers.h"
 #include "core/services/registrystore.h"
+#include "printing/forms/machineprinters.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
 #include "shell/forms/qtdialogs.h"
@@ -24,6 +26,8 @@ int runProgram(QApplication& app, const Launch& launch, const std::function<void
     QtDialogs dialogs;
     FileRegistryStore registry(launch.home + QStringLiteral("/Desko40.reg"));
     Context ctx{clock, dialogs, registry, {}, {}, launch};
+    const std::unique_ptr<Printers> printers = machinePrinters(launch.pdfDir);
+    ctx.printers = printers.get();
 
     // The command line is one text: a schedule file's name, blanks and all.
     const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));

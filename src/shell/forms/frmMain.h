@@ -21,6 +21,7 @@ class QPushButton;
 class frmAbout;
 class frmBoth;
 class frmHolidays;
+class frmPSetup;
 class frmRestrictions;
 class frmViewDay;
 class frmWholeCalendar;
@@ -211,6 +212,7 @@ private:
     frmRestrictions* restrictions_ = nullptr;
     frmBoth* constraints_ = nullptr;
     frmAbout* about_ = nullptr;
+    frmPSetup* printerSetup_ = nullptr;
 };
 
 template <typename F>

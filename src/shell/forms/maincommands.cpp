@@ -7,6 +7,7 @@
 #include "core/forms/formkit.h"
 #include "core/model/workspace.h"
 #include "generation/forms/frmWholeCalendar.h"
+#include "printing/forms/frmPSetup.h"
 #include "shell/filecommands.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/monthstepper.h"
@@ -135,11 +136,10 @@ void frmMain::vscDate_Change() {
     lstAgents->setFocus();
 }
 
-// The printer setup joins with the reports; until then its entry leaves the window as it is.
 void frmMain::cmdViewEdit_Click() {
     showHourglass();
     const std::optional<ViewForm> form = viewFormNamed(cmbViewEdit->currentText());
-    if (!form || *form == ViewForm::FontsAndPrinter) {
+    if (!form) {
         showNormalPointer();
         return;
     }
@@ -150,11 +150,9 @@ void frmMain::cmdViewEdit_Click() {
 
 void frmMain::openViewForm(ViewForm form) {
     showHourglass();
-    if (form != ViewForm::FontsAndPrinter) {
-        modEnterBusyState();
-        doEvents();
-        showViewForm(form);
-    }
+    modEnterBusyState();
+    doEvents();
+    showViewForm(form);
     showNormalPointer();
 }
 
@@ -170,6 +168,7 @@ void frmMain::showViewForm(ViewForm form) {
             formOf(constraints_)->show();
             break;
         case ViewForm::FontsAndPrinter:
+            formOf(printerSetup_)->show();
             break;
     }
 }

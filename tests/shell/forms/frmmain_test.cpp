@@ -80,6 +80,8 @@ void openEveryEditor(MainWindow& w) {
                       Qt::LeftButton);
     ok();
     ok();
+    w.main->mnuEFonts->trigger();
+    ok();
     EXPECT_TRUE(w.main->isVisible());
 }
 
@@ -230,11 +232,11 @@ TEST(MainWindowForm, ViewEditListAndEditMenuOpenTheirForms) {
     } cases[] = {{0, nullptr, "frmWholeCalendar"},
                  {1, nullptr, "frmViewDay"},
                  {2, nullptr, "frmBoth"},
-                 {3, nullptr, ""},
+                 {3, nullptr, "frmPSetup"},
                  {-1, w.main->mnuESchedule, "frmWholeCalendar"},
                  {-1, w.main->mnuEShifts, "frmViewDay"},
                  {-1, w.main->mnuEConstraints, "frmBoth"},
-                 {-1, w.main->mnuEFonts, ""}};
+                 {-1, w.main->mnuEFonts, "frmPSetup"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         if (c.item != nullptr) {
@@ -567,7 +569,7 @@ TEST(MainWindowForm, TheFormsAreFacesOfOneWindowThatFitsTheScreen) {
     openEveryEditor(w);
     const QSize stage = scroll->widget()->size();
     const QList<Form*> faces = w.window->findChildren<Form*>();
-    EXPECT_EQ(faces.size(), 8);
+    EXPECT_EQ(faces.size(), 9);
     for (Form* face : faces) {
         EXPECT_GE(stage.width(), face->minimumSizeHint().width())
             << face->objectName().toStdString();

@@ -1,0 +1,137 @@
+#include "core/services/printers.h"
+#include "fakes.h"
+#include "offices.h"
+#include "printing/forms/machineprinters.h"
+#include "printing/fullcalendar.h"
+#include "printing/printersetup.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace {
+
+// A printer that takes PDF and gives it out as it came: a file device writes nothing for a
+// queue without a driver.
+const char* const kPdfPrinter =
+    "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
+    "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"DESKO.PPD\"\n"
+    "*Manufacturer: \"Desko\"\n*Product: \"(Desko)\"\n*ModelName: \"Desko PDF file\"\n"
+    "*ShortNickName: \"Desko PDF file\"\n*NickName: \"Desko PDF file\"\n"
+    "*PSVersion: \"(3010.000) 0\"\n*LanguageLevel: \"3\"\n*ColorDevice: True\n"
+    "*DefaultColorSpace: RGB\n*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n"
+    "*OpenUI *PageSize/Page Size: PickOne\n*DefaultPageSize: Letter\n"
+    "*PageSize Letter/US Letter: \"<</PageSize[612 792]>>setpagedevice\"\n"
+    "*CloseUI: *PageSize\n*DefaultPageRegion: Letter\n*DefaultImageableArea: Letter\n"
+    "*ImageableArea Letter: \"0 0 612 792\"\n*DefaultPaperDimension: Letter\n"
+    "*PaperDimension Letter: \"612 792\"\n";
+
+// The scheduler's settings, with R/ standing for the print system's folder.
+const char* const kFiles =
+    "FileDevice Yes\nServerRoot R/conf\nRequestRoot R/spool\nTempDir R/spool/tmp\n"
+    "CacheDir R/cache\nStateDir R/state\nAccessLog R/log/access_log\n"
+    "ErrorLog R/log/error_log\nPageLog R/log/page_log\nServerBin /usr/lib/cups\n"
+    "DataDir /usr/share/cups\nGroup lp\nSystemGroup root\n";
+const char* const kConf =
+    "Listen R/cups.sock\nBrowsing Off\nWebInterface No\nDefaultAuthType None\n"
+    "<Location />\nOrder allow,deny\nAllow all\n</Location>\n";
+
+// A print system of the test's own: a scheduler that listens on a socket in a temporary
+// folder, keeps everything there, and has one queue, "DeskoTest", whose device is a file.
+struct PrintSystem {
+    explicit PrintSystem(const QString& cupsd) {
+        for (const char* folder : {"spool/tmp", "cache", "state", "log", "conf", "out"}) {
+            QDir(dir.path()).mkpath(QString::fromUtf8(folder));
+        }
+        // The jobs run as the print system's own user.
+        for (const QString& open : {dir.path(), dir.filePath(QStringLiteral("out"))}) {
+            QFile::setPermissions(open, QFileDevice::Permission(0x7777));
+        }
+        const QString conf = write("conf/cupsd.conf", kConf);
+        const QString files = write("conf/cups-files.conf", kFiles);
+        const QString ppd = write("conf/desko.ppd", kPdfPrinter);
+        socket = dir.filePath(QStringLiteral("cups.sock"));
+        output = dir.filePath(QStringLiteral("out/job.pdf"));
+        // Without -f the scheduler answers only once it listens.
+        ready = QProcess::execute(cupsd,
+                                  {QStringLiteral("-c"), conf, QStringLiteral("-s"), files}) == 0 &&
+                QProcess::execute(
+                    QStringLiteral("lpadmin"),
+                    {QStringLiteral("-h"), socket, QStringLiteral("-p"),
+                     QStringLiteral("DeskoTest"), QStringLiteral("-E"), QStringLiteral("-v"),
+                     QStringLiteral("file://") + output, QStringLiteral("-P"), ppd}) == 0;
+    }
+    ~PrintSystem() {
+        const qint64 pid = fileText(dir.filePath(QStringLiteral("state/cupsd.pid"))).toLongLong();
+        if (pid > 0) {
+            ::kill(static_cast<pid_t>(pid), SIGTERM);
+        }
+    }
+    QString write(const char* name, const char* text) const {
+        const QString path = dir.filePath(QString::fromUtf8(name));
+        QFile file(path);
+        if (file.open(QIODevice::WriteOnly)) {
+            file.write(QString::fromLatin1(text)
+                           .replace(QStringLiteral("R/"), dir.path() + QLatin1Char('/'))
+                           .toUtf8());
+        }
+        return path;
+    }
+    // Whether a job is still waiting or printing.
+    bool busy() const {
+        QProcess lpstat;
+        lpstat.start(QStringLiteral("lpstat"),
+                     {QStringLiteral("-h"), socket, QStringLiteral("-o")});
+        lpstat.waitForFinished();
+        return !lpstat.readAllStandardOutput().trimmed().isEmpty();
+    }
+
+    QTemporaryDir dir;
+    QString socket;
+    QString output;
+    bool ready = false;
+};
+
+}  // namespace
+
+// The full calendar goes through the program's own printer path to a real print queue and
+// comes out as a PDF of one page.
+TEST(MachinePrinters, AReportComesOutOfARealPrintQueue) {
+    const QString cupsd = QStandardPaths::findExecutable(
+        QStringLiteral("cupsd"), {QStringLiteral("/usr/sbin"), QStringLiteral("/sbin")});
+    if (cupsd.isEmpty()) {
+        GTEST_SKIP() << "cupsd is not installed (Debian's cups package)";
+    }
+    PrintSystem cups(cupsd);
+    ASSERT_TRUE(cups.ready);
+    qputenv("CUPS_SERVER", cups.socket.toLocal8Bit());
+
+    TestServices s;
+    Workspace ws;
+    makeOffice(ws, 2027, 1, 12);
+    dealInTurn(ws);
+    ws.gCalendarFont = QStringLiteral("Times New Roman");
+    const std::unique_ptr<Printers> printers =
+        machinePrinters(cups.dir.filePath(QStringLiteral("pdf")));
+    s.ctx.printers = printers.get();
+    ASSERT_TRUE(printers->deviceNames().contains(QStringLiteral("DeskoTest")));
+    choosePrinter(s.ctx, QStringLiteral("DeskoTest"));
+    printFullCalendarCopy(ws, s.ctx, printers->printer());
+
+    const QDeadlineTimer deadline(60000);
+    while (cups.busy() && !deadline.hasExpired()) {
+    }
+    QProcess pdfinfo;
+    pdfinfo.start(QStringLiteral("pdfinfo"), {cups.output});
+    ASSERT_TRUE(pdfinfo.waitForFinished());
+    EXPECT_EQ(pdfinfo.exitCode(), 0);
+    EXPECT_TRUE(QString::fromUtf8(pdfinfo.readAllStandardOutput())
+                    .contains(QRegularExpression(QStringLiteral("Pages: +1\n"))));
+}

@@ -1,0 +1,327 @@
+#include "core/model/leaveempty.h"
+#include "fakes.h"
+#include "offices.h"
+#include "printing/constraintsreport.h"
+#include "printing/dailyshifts.h"
+#include "printing/fullcalendar.h"
+#include "printing/officegrid.h"
+#include "printing/pdftarget.h"
+#include "printing/printcommand.h"
+#include "printing/printersetup.h"
+#include "printing/printview.h"
+#include "printing/tearsheet.h"
+#include "recordingprinters.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class RecordingView final : public PrintView {
+public:
+    QStringList asked;
+    void beginPrinting(const QString& status) override {
+        asked.append(QStringLiteral("busy: ") + status);
+    }
+    void showPrintStatus(const QString& status) override {
+        asked.append(QStringLiteral("status: ") + status);
+    }
+    void doEvents() override {}
+    void endPrinting() override { asked.append(QStringLiteral("normal")); }
+};
+
+// An office of agents with one shift of one agent a day, dealt in turn, in January 2027,
+// which starts on a Friday and takes six rows, and its printers.
+struct Office {
+    explicit Office(int agents = 4, int month = 1) {
+        makeOffice(ws, 2027, month, agents, home.path());
+        dealInTurn(ws);
+        s.ctx.printers = &printers;
+        ws.gCalendarFont = ws.gGridFont = ws.gTearsheetFont = QStringLiteral("Times New Roman");
+        ws.gCalendarCopies = ws.gGridCopies = QStringLiteral("1");
+        ws.gTearsheetFontsize = QStringLiteral("8");
+    }
+    void print(std::array<int, 3> boxes) {
+        std::copy(boxes.begin(), boxes.end(), ws.chkPrint.begin());
+        printSchedule(ws, s.ctx, view);
+    }
+    int documents() const { return printers.device.documents; }
+
+    QTemporaryDir home;
+    TestServices s;
+    Workspace ws;
+    RecordingPrinters printers;
+    RecordingView view;
+};
+
+}  // namespace
+
+TEST(PrintCommand, LeaveEmptyPrintsAsBlanksAndComesBack) {
+    Office o;
+    o.ws.schedule(4, 1, 0) = leaveEmptyText();
+    o.ws.gHoliday[1] = 1;
+    o.ws.schedule(1, 1, 0) = blankedCellText();
+    o.print({1, 0, 0});
+    EXPECT_TRUE(o.printers.starting(QStringLiteral("Print \"Leave empty\"")).isEmpty());
+    EXPECT_NE(o.printers.printedAt(blankedCellText()), QPointF(-1, -1));
+    EXPECT_EQ(o.ws.schedule(4, 1, 0), leaveEmptyText());
+    EXPECT_EQ(o.ws.schedule(1, 1, 0), leaveEmptyText());
+    EXPECT_EQ(o.view.asked, texts({"busy: Printing the schedule . . .",
+                                   "status: Printing the full calendar . . .", "normal"}));
+    EXPECT_TRUE(logged(o.ws, QStringLiteral("Printing the schedule for January")));
+    EXPECT_EQ(o.printers.calls.last(), QStringLiteral("Orientation = 1"));
+}
+
+// The boxes choose the reports, in a fixed order; copies are repaired, counted and capped.
+TEST(PrintCommand, BoxesAndCopies) {
+    const QString capped = QStringLiteral(
+        "Desko prints at most 99 copies of a report, so the full calendar is printed 99 times, "
+        "not 100000.");
+    const struct {
+        std::array<int, 3> boxes;
+        const char* copies;
+        int documents;
+        const char* repaired;
+        QStringList titles;
+    } cases[] = {
+        {{0, 0, 0}, "5", 0, "5", {}},
+        {{1, 0, 0}, "0", 1, "1", texts({"January 2027 Full calendar"})},
+        {{1, 0, 0}, "abc", 1, "1", texts({"January 2027 Full calendar"})},
+        {{1, 0, 0}, "2.5", 2, "2.5", texts({"January 2027 Full calendar"})},
+        {{1, 0, 0}, "100000", 99, "100000", texts({"January 2027 Full calendar"})},
+        {{0, 1, 0}, "3", 3, "3", texts({"January 2027 Office grid"})},
+        {{1, 1, 1},
+         "1",
+         3,
+         "1",
+         texts(
+             {"January 2027 Full calendar", "January 2027 Office grid", "January 2027 Tearsheet"})},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Office o;
+        QString& copies = c.boxes[0] == 1 ? o.ws.gCalendarCopies : o.ws.gGridCopies;
+        copies = QString::fromUtf8(c.copies);
+        o.print(c.boxes);
+        EXPECT_EQ(o.documents(), c.documents);
+        EXPECT_EQ(o.printers.titles, c.titles);
+        EXPECT_EQ(copies, QString::fromUtf8(c.repaired));
+        EXPECT_EQ(o.s.dialogs.texts(),
+                  c.documents == 99 ? o.s.dialogs.wrapped({capped}) : QStringList());
+        EXPECT_TRUE(QFile::exists(o.ws.gConfigFile));
+        EXPECT_EQ(o.view.asked.isEmpty(), c.documents == 0);
+    }
+}
+
+// Where the names of a shift stand: the busiest weekday decides size, lines and spacing.
+TEST(FullCalendar, TheBusiestWeekdayChoosesSizeAndSpacing) {
+    const struct {
+        int shifts, agents, month;
+        const char* hideTime;
+        int mode;
+        const char* size;
+        const char *first, *second, *lastOfFirst, *firstOfSecond;
+        double step, lastStep;
+    } cases[] = {
+        {2, 4, 1, "0", 1, "FontSize = 9", "s1n0", "s1n1", "s1n3", "s2n0", 8.0 / 72, 10.0 / 72},
+        {3, 3, 1, "0", 2, "FontSize = 6", "s1n0 / s1n1", "s1n2", "s1n2", "s2n0 / s2n1", 8.0 / 72,
+         8.0 / 72},
+        {2, 2, 3, "1", -1, "FontSize = 11", "s1n0", "s1n1", "s1n1", "s2n0", 11.0 / 72, 5.0 / 16},
+        {2, 2, 1, "0", 0, "FontSize = 9", "s1n0", "s1n1", "s1n1", "s2n0", 9.0 / 72, 7.0 / 32},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Office o(4, c.month);
+        setTable(o.ws, c.shifts, c.agents);
+        for (int shift = 1; shift <= c.shifts; ++shift) {
+            for (int slot = 0; slot < c.agents; ++slot) {
+                o.ws.schedule(1, shift, slot) = QStringLiteral("s%1n%2").arg(shift).arg(slot);
+            }
+        }
+        o.ws.gCalendarHideTimeText = QString::fromUtf8(c.hideTime);
+        EXPECT_EQ(calendarFontMode(o.ws), c.mode);
+        printFullCalendarCopy(o.ws, o.s.ctx, o.printers.printer());
+        EXPECT_TRUE(o.printers.calls.contains(QString::fromUtf8(c.size)));
+        const auto y = [&o](const char* text) {
+            return o.printers.printedAt(QString::fromUtf8(text)).y();
+        };
+        EXPECT_NEAR(y(c.second) - y(c.first), c.step, 1e-3);
+        EXPECT_NEAR(y(c.firstOfSecond) - y(c.lastOfFirst), c.lastStep, 1e-3);
+        EXPECT_EQ(
+            logged(o.ws, QStringLiteral("Using fontsize 6 for full calendar due to configuration")),
+            c.mode == 2);
+    }
+}
+
+// A holiday shows its name alone, also on a noted day; a noted day's text ends 0.015 further
+// left than a holiday's.
+TEST(FullCalendar, HolidaysAndNotedDaysInTheCorner) {
+    Office o;
+    o.ws.gHoliday[4] = o.ws.gHoliday[6] = o.ws.gNoted[5] = o.ws.gNoted[6] = 1;
+    o.ws.gHolidayName[4] = QStringLiteral("Hol4");
+    o.ws.gHolidayName[6] = QStringLiteral("Hol6");
+    o.ws.gNotedText[5] = QStringLiteral("Note5");
+    o.ws.gNotedText[6] = QStringLiteral("Note6");
+    printFullCalendarCopy(o.ws, o.s.ctx, o.printers.printer());
+    const double width = 4 * 9 * 0.5 / 72;  // four characters at 9 points
+    const double cellWidth = 10.11 / 7;
+    EXPECT_NEAR(o.printers.printedAt(QStringLiteral("Hol4")).x() + width,
+                0.25 + 2 * cellWidth - 0.09, 1e-3);
+    EXPECT_NEAR(o.printers.printedAt(QStringLiteral("Note5")).x() + 5 * 9 * 0.5 / 72,
+                0.25 + 3 * cellWidth - 0.105, 1e-3);
+    EXPECT_NE(o.printers.printedAt(QStringLiteral("Hol6")), QPointF(-1, -1));
+    EXPECT_EQ(o.printers.printedAt(QStringLiteral("Note6")), QPointF(-1, -1));
+}
+
+// The names' size follows the agents; a slot that names nobody ends its day's shading, and a
+// holiday stays white.
+TEST(OfficeGrid, SizesAndShading) {
+    const struct {
+        int agents;
+        const char* size;
+        int squares;
+    } cases[] = {{3, "FontSize = 11", 58},
+                 {35, "FontSize = 11", 58},
+                 {36, "FontSize = 9.8333", 58},
+                 {100, "FontSize = 4.5", 58},
+                 {0, "", 0}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.agents);
+        Office o(std::max(c.agents, 1));
+        setTable(o.ws, 1, 2);
+        dealInTurn(o.ws);
+        o.ws.gAgentCount = c.agents;
+        o.ws.gHoliday[1] = 1;
+        o.ws.schedule(2, 1, 0).clear();
+        printOfficeGridCopy(o.ws, o.printers.printer());
+        const QStringList calls = o.printers.calls;
+        const qsizetype shading = calls.indexOf(QStringLiteral("FillColor = 8421504"));
+        EXPECT_EQ(calls.mid(shading).filter(QStringLiteral(", , B")).size(), c.squares);
+        EXPECT_TRUE(*c.size == '\0' || calls.contains(QString::fromUtf8(c.size)));
+        EXPECT_EQ(o.documents(), 1);
+    }
+}
+
+// Slips fill a page down its columns; one agent more than a page holds makes a second
+// document, and slips too large for a page take one each.
+TEST(Tearsheet, PagesOfSlips) {
+    Office full(200);
+    printTearsheet(full.ws, full.printers.printer());
+    const QStringList calls = full.printers.calls;
+    const auto perPage = static_cast<int>(calls.mid(0, calls.indexOf(QStringLiteral("EndDoc")))
+                                              .count(QStringLiteral("FontBold = True")));
+    ASSERT_GT(perPage, 1);
+    const struct {
+        int agents;
+        const char* size;
+        int documents;
+        const char* sizeAfter;
+    } cases[] = {{perPage, "8", 1, "8"}, {perPage + 1, "", 2, "8"}, {3, "300", 3, "300"}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Office o(c.agents);
+        o.ws.gTearsheetFontsize = QString::fromUtf8(c.size);
+        printTearsheet(o.ws, o.printers.printer());
+        EXPECT_EQ(o.documents(), c.documents);
+        EXPECT_EQ(o.ws.gTearsheetFontsize, QString::fromUtf8(c.sizeAfter));
+    }
+}
+
+// Only Wednesday measures the box's width, here by its heading alone; a long Thursday sets
+// its bottom.
+TEST(DailyShifts, TheBoxFollowsWednesdayAndTheLowestColumn) {
+    Office o;
+    setShifts(o.ws, {{0}, {0}, {0}, {}, {0, 0, 0, 0, 0, 0}, {0}, {0}});
+    o.ws.gShiftText[1][1] = QStringLiteral("a far longer shift than any other");
+    printDailyShifts(o.ws, o.s.ctx, o.printers.printer());
+    // "Wednesday Shifts" is 1.4667 wide in bold 12 points; a line is 0.1917 high.
+    EXPECT_TRUE(o.printers.calls.contains(QStringLiteral("Line (0.8, 1)-(7.3667, 3.325), , B")));
+    EXPECT_EQ(o.printers.calls.last(), QStringLiteral("Orientation = 1"));
+}
+
+TEST(ConstraintsReport, ListsTheLinesOrEndsEarly) {
+    Office o;
+    EXPECT_FALSE(printConstraints(o.ws, o.s.ctx, o.printers.printer(), {}));
+    EXPECT_FALSE(o.printers.calls.contains(QStringLiteral("EndDoc")));
+    EXPECT_EQ(o.documents(), 0);
+
+    Office one;
+    EXPECT_TRUE(printConstraints(one.ws, one.s.ctx, one.printers.printer(),
+                                 {{{}, {}, texts({"New Year's Day, January 1"}), {}}}));
+    QStringList printed;
+    for (const QString& call : one.printers.starting(QStringLiteral("Print"))) {
+        printed.append(call.section(QStringLiteral("  ' at"), 0, 0));
+    }
+    EXPECT_EQ(printed, texts({"Print \"Holidays\"", "Print \"New Year's Day, January 1\"", "Print",
+                              "Print", "Print \"January 2027\""}));
+    EXPECT_EQ(one.documents(), 1);
+
+    // 103 lines fit ten inches at 6 points.
+    Office many;
+    QStringList hundred;
+    for (int i = 0; i < 100; ++i) {
+        hundred.append(QStringLiteral("line %1").arg(i));
+    }
+    printConstraints(many.ws, many.s.ctx, many.printers.printer(), {{hundred, {}, {}, {}}});
+    EXPECT_TRUE(many.printers.calls.contains(QStringLiteral("FontSize = 6")));
+    EXPECT_FALSE(many.printers.calls.contains(QStringLiteral("FontSize = 5")));
+}
+
+TEST(PrinterSetup, FontsAndWhatOkKeeps) {
+    Office o;
+    RecordingPrinters printers(texts({"Arial", " ", "", "Courier"}));
+    o.s.ctx.printers = &printers;
+    modFillFontTable(o.ws, o.s.ctx);
+    const QStringList table(o.ws.gPrinterFonts.begin(), o.ws.gPrinterFonts.end());
+    EXPECT_EQ(table, texts({"Arial", "Courier", "", ""}));
+    QString font = QStringLiteral("Wingdings");
+    EXPECT_FALSE(keepOfferedFont(o.ws, font));
+    EXPECT_EQ(font, QStringLiteral("Arial"));
+
+    o.ws.gTearsheetFontsize = QStringLiteral("3");
+    EXPECT_EQ(printerSetupFields(o.ws).tearsheetFontsize, QStringLiteral("12"));
+    savePrinterSetup(o.ws, o.s.ctx, PrinterSetupFields{});
+    for (const QString* setting : {&o.ws.gCalendarFont, &o.ws.gGridFont, &o.ws.gTearsheetFont}) {
+        EXPECT_EQ(*setting, QStringLiteral("Times New Roman"));
+    }
+    EXPECT_EQ(o.ws.gCalendarCopies + o.ws.gGridCopies + o.ws.gTearsheetFontsize,
+              QStringLiteral("1112"));
+    EXPECT_EQ(o.ws.gCalendarTitle + o.ws.gCalendarHideTimeText, QStringLiteral("0"));
+    EXPECT_TRUE(logged(o.ws, QStringLiteral("Closing font and printer setup")));
+}
+
+// Hostile settings and big offices print every page and end.
+TEST(PrintCommand, EndsOnBadInputAndBigOffices) {
+    const std::function<void(Workspace&)> cases[] = {
+        [](Workspace& ws) { ws.gCalendarTitle = ws.gGridNotes = QString(5000, QLatin1Char('W')); },
+        [](Workspace& ws) { ws.gCalendarFont = ws.gTearsheetFont = QStringLiteral("No such"); },
+        [](Workspace& ws) { ws.gAgentLast[1] = QString(200, QLatin1Char('L')); },
+        [](Workspace& ws) {
+            setTable(ws, 6, 4);
+            dealInTurn(ws);
+        },
+    };
+    for (const auto& change : cases) {
+        SCOPED_TRACE(&change - cases);
+        Office o(1000);
+        change(o.ws);
+        o.print({1, 1, 1});
+        EXPECT_GT(o.documents(), 2);
+        EXPECT_FALSE(o.printers.calls.contains(QStringLiteral("FontSize -> 0")));
+    }
+}
+
+TEST(PrintToPdf, NamesNeverWriteOverAFile) {
+    QTemporaryDir dir;
+    const PdfTarget::Naming inFolder = namesInFolder(dir.filePath(QStringLiteral("new")));
+    const QString first = inFolder(QStringLiteral("May 2027 Tearsheet"));
+    EXPECT_EQ(first, dir.filePath(QStringLiteral("new/May 2027 Tearsheet.pdf")));
+    QFile(first).open(QIODevice::WriteOnly);
+    EXPECT_EQ(inFolder(QStringLiteral("May 2027 Tearsheet")),
+              dir.filePath(QStringLiteral("new/May 2027 Tearsheet (2).pdf")));
+    PdfTarget::Naming numbered = numberedFiles(QStringLiteral("out/may.pdf"));
+    const QStringList files = {numbered({}), numbered({}), numbered({})};
+    EXPECT_EQ(files, texts({"out/may.pdf", "out/may-2.pdf", "out/may-3.pdf"}));
+}
