@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -70,8 +71,13 @@ struct PrintSystem {
     }
     ~PrintSystem() {
         const qint64 pid = fileText(dir.filePath(QStringLiteral("state/cupsd.pid"))).toLongLong();
-        if (pid > 0) {
-            ::kill(static_cast<pid_t>(pid), SIGTERM);
+        if (pid <= 0 || ::kill(static_cast<pid_t>(pid), SIGTERM) != 0) {
+            return;
+        }
+        // The scheduler writes its cache as it ends; the folder goes only after it.
+        const QDeadlineTimer deadline(10000);
+        while (::kill(static_cast<pid_t>(pid), 0) == 0 && !deadline.hasExpired()) {
+            QThread::msleep(10);
         }
     }
     QString write(const char* name, const char* text) const {
