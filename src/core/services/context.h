@@ -6,6 +6,7 @@
 
 class Clock;
 class Dialogs;
+class Machine;
 class RegistryStore;
 
 // The services every part of the program uses, passed in beside the Workspace.
@@ -16,4 +17,6 @@ struct Context {
     Environment env;
     RandomSequence random{};
     Launch launch{};
+    // The machine the start-up asks for its facts; none where nothing is to be asked.
+    const Machine* machine = nullptr;
 };

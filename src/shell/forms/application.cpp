@@ -1,10 +1,12 @@
 #include "shell/forms/application.h"
 
 #include "core/forms/facewindow.h"
+#include "core/model/session.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/registrystore.h"
+#include "environment/systemmachine.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
 #include "shell/forms/qtdialogs.h"
@@ -20,8 +22,9 @@ int runProgram(QApplication& app, const Launch& launch, const std::function<void
     Workspace ws;
     SystemClock clock;
     QtDialogs dialogs;
-    FileRegistryStore registry(launch.home + QStringLiteral("/Desko40.reg"));
-    Context ctx{clock, dialogs, registry, {}, {}, launch};
+    const std::unique_ptr<RegistryStore> registry = SettingsRegistryStore::native(kRegistryBase);
+    const SystemMachine machine;
+    Context ctx{clock, dialogs, *registry, {}, {}, launch, &machine};
 
     // The command line is one text: a schedule file's name, blanks and all.
     const QString commandLine = QApplication::arguments().mid(1).join(QLatin1Char(' '));
