@@ -41,8 +41,7 @@ QString SystemMachine::hostName() const {
 SystemVersion SystemMachine::systemVersion() const {
     static const QRegularExpression numbers(QStringLiteral("^(\\d+)(?:\\.(\\d+))?(?:\\.(\\d+))?"));
     const QRegularExpressionMatch match = numbers.match(QSysInfo::kernelVersion());
-    return {QSysInfo::prettyProductName(), match.captured(1), match.captured(2),
-            match.captured(3)};
+    return {QSysInfo::prettyProductName(), match.captured(1), match.captured(2), match.captured(3)};
 }
 
 QString SystemMachine::systemDataDir() const {

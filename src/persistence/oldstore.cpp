@@ -138,8 +138,8 @@ void readOldStore(Workspace& ws, Context& ctx) {
     ws.gNoted.fill(0);
     ws.gHolidayName.fill(QString());
     ws.gHoliday.fill(0);
-    ws.gHasHolidays = markDays(store.values(QStringLiteral("\\Holidays")), ws.gHoliday,
-                               ws.gHolidayName);
+    ws.gHasHolidays =
+        markDays(store.values(QStringLiteral("\\Holidays")), ws.gHoliday, ws.gHolidayName);
     readVacations(ws, store);
     ws.gHasNotedDays =
         markDays(store.values(QStringLiteral("\\Noted Days")), ws.gNoted, ws.gNotedText);

@@ -264,7 +264,8 @@ void readTitlesAndSettings(Workspace& ws, const ProfileFile& file) {
     ws.gSavedMonth = modReadProfileValue(file, kSettings, QStringLiteral("Current Month"));
     ws.gSavedYear = modReadProfileValue(file, kSettings, QStringLiteral("Current Year"));
     ws.gPrinterFormat = modReadProfileValue(file, kSettings, QStringLiteral("Printer Format"));
-    ws.gEngine = engineNumber(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
+    ws.gEngine =
+        engineNumber(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
 }
 
 // The schedule is not cleared first: a cell the file does not name keeps what it held.

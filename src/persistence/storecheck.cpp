@@ -18,9 +18,9 @@ namespace {
 
 // The keys of the old store, in the order they are removed.
 const std::array<QString, 9> kOldKeys = {
-    QStringLiteral("\\Agents"),       QStringLiteral("\\Log"),          QStringLiteral("\\Holidays"),
-    QStringLiteral("\\Noted Days"),   QStringLiteral("\\Restrictions"), QStringLiteral("\\Settings"),
-    QStringLiteral("\\Shifts"),       QStringLiteral("\\Titles"),       QStringLiteral("\\Vacations"),
+    QStringLiteral("\\Agents"),     QStringLiteral("\\Log"),          QStringLiteral("\\Holidays"),
+    QStringLiteral("\\Noted Days"), QStringLiteral("\\Restrictions"), QStringLiteral("\\Settings"),
+    QStringLiteral("\\Shifts"),     QStringLiteral("\\Titles"),       QStringLiteral("\\Vacations"),
 };
 
 // Hidden and read-only files count as there; a directory does not.

@@ -25,8 +25,9 @@ QStringList namesOf(const Map& map) {
 // A value as text. A settings file written by hand may hold a list, "a, b", where a text
 // with a comma was meant.
 QString textOf(const QVariant& value) {
-    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", "))
-                                                    : value.toString();
+    return value.typeId() == QMetaType::QStringList
+               ? value.toStringList().join(QStringLiteral(", "))
+               : value.toString();
 }
 
 }  // namespace
