@@ -91,7 +91,8 @@ TEST(EnvironmentProbe, FiguresAsTheyWereAlwaysReckoned) {
 
 // The check writes, reads back and removes two values in the settings store and a file in
 // the program directory, and leaves both as they were. Of a store and a folder that cannot
-// be written, only the store is told.
+// be written, only the store is told. A settings file that cannot be read whole is not
+// written over.
 TEST(RightsCheck, WarnsOfWhatCannotBeWritten) {
     const QString first = QStringLiteral(
         "Your current user account does not appear to have\r\nthe rights "
@@ -112,23 +113,25 @@ TEST(RightsCheck, WarnsOfWhatCannotBeWritten) {
             "to the program directory.\r\n\r\nDesko for Windows will continue to "
             "load, but you\r\nmay not be able save program settings or log \r\nfiles.") +
         last;
+    const QString settings = QStringLiteral("[Settings]\nVersion=4.0.10\n");
+    const QString damaged = QStringLiteral("[Settings\nVersion=4.0.10\n");
     const struct {
+        QString store;
         bool storeReadOnly;
         bool folderReadOnly;
         QStringList shown;
     } cases[] = {
-        {false, false, {}},
-        {true, false, {registry}},
-        {false, true, {folder}},
-        {true, true, {registry}},
+        {settings, false, false, {}},        {settings, true, false, {registry}},
+        {settings, false, true, {folder}},   {settings, true, true, {registry}},
+        {damaged, false, false, {registry}},
     };
-    const QString settings = QStringLiteral("[Settings]\nVersion=4.0.10\n");
     for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.storeReadOnly << c.folderReadOnly);
+        SCOPED_TRACE(testing::Message()
+                     << c.store.toStdString() << c.storeReadOnly << c.folderReadOnly);
         QTemporaryDir home;
         QTemporaryDir storeDir;
         const QString storeFile = storeDir.filePath(QStringLiteral("store.conf"));
-        ASSERT_TRUE(writeTextFile(storeFile, settings));
+        ASSERT_TRUE(writeTextFile(storeFile, c.store));
         const auto readOnly = QFile::ReadOwner | QFile::ExeOwner;
         QFile::setPermissions(storeFile,
                               c.storeReadOnly ? readOnly : QFile::permissions(storeFile));
@@ -148,6 +151,6 @@ TEST(RightsCheck, WarnsOfWhatCannotBeWritten) {
             EXPECT_EQ(box.icon, MsgIcon::Stop);
         }
         EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), QStringList());
-        EXPECT_EQ(fileText(storeFile), settings);
+        EXPECT_EQ(fileText(storeFile), c.store);
     }
 }

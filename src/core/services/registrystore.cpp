@@ -114,7 +114,11 @@ SettingsRegistryStore::SettingsRegistryStore(std::unique_ptr<QSettings> settings
     : settings_(std::move(settings)), base_(base), inFile_(inFile) {
     // Only this file counts: a store that other scopes lent values to could never be emptied.
     settings_->setFallbacksEnabled(false);
-    for (const QString& path : settings_->allKeys()) {
+    const QStringList paths = settings_->allKeys();
+    // A file that cannot be read whole is left as it is: nothing of it is taken for a store
+    // of an earlier version, and nothing is written over it.
+    damaged_ = settings_->status() == QSettings::FormatError;
+    for (const QString& path : damaged_ ? QStringList() : paths) {
         QStringList parts = path.split(QLatin1Char('/'));
         const QString name = parts.takeLast();
         parts.prepend(base_);
@@ -196,6 +200,9 @@ void SettingsRegistryStore::flush() {
 }
 
 bool SettingsRegistryStore::writable() const {
+    if (damaged_) {
+        return false;
+    }
     if (!inFile_) {
         return true;  // the registry tells by failing
     }

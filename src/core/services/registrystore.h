@@ -57,7 +57,8 @@ private:
 };
 
 // A store kept by QSettings: the tree below one base key, in a settings file of its own or,
-// on Windows, in the registry itself. Its contents are read once, when it is opened.
+// on Windows, in the registry itself. Its contents are read once, when it is opened. A file
+// that cannot be read whole counts as empty, and cannot be written.
 class SettingsRegistryStore final : public RegistryStore {
 public:
     // The settings file at path, in the portable INI format.
@@ -86,6 +87,7 @@ private:
     std::unique_ptr<QSettings> settings_;
     QString base_;
     bool inFile_;
+    bool damaged_ = false;
     // What the settings hold, for quick reading and listing.
     MemoryRegistryStore contents_;
 };
