@@ -10,37 +10,13 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace {
 
 const QString kBar = QStringLiteral("|");
 const QString kTitles = QStringLiteral("Titles");
 const QString kSettings = QStringLiteral("Settings");
-
-struct TitleField {
-    QString key;
-    QString Workspace::*field;
-};
-
-// The [Titles] keys in the order the file holds them.
-const std::array<TitleField, 16> kTitleFields = {{
-    {QStringLiteral("Calendar Title"), &Workspace::gCalendarTitle},
-    {QStringLiteral("Calendar Notes"), &Workspace::gCalendarNotes},
-    {QStringLiteral("Calendar Font"), &Workspace::gCalendarFont},
-    {QStringLiteral("Calendar Copies"), &Workspace::gCalendarCopies},
-    {QStringLiteral("Calendar Use First Name"), &Workspace::gCalendarUseFirstName},
-    {QStringLiteral("Calendar Hide Time Text"), &Workspace::gCalendarHideTimeText},
-    {QStringLiteral("Office Grid Title"), &Workspace::gGridTitle},
-    {QStringLiteral("Office Grid Notes"), &Workspace::gGridNotes},
-    {QStringLiteral("Office Grid Font"), &Workspace::gGridFont},
-    {QStringLiteral("Office Grid Copies"), &Workspace::gGridCopies},
-    {QStringLiteral("Tearsheet Font"), &Workspace::gTearsheetFont},
-    {QStringLiteral("Tearsheet Fontsize"), &Workspace::gTearsheetFontsize},
-    {QStringLiteral("Email Subject"), &Workspace::gEmailSubject},
-    {QStringLiteral("Email Body"), &Workspace::gEmailBody},
-    {QStringLiteral("Outlook Subject"), &Workspace::gOutlookSubject},
-    {QStringLiteral("Outlook Body"), &Workspace::gOutlookBody},
-}};
 
 struct TitleDefault {
     QString Workspace::*field;
@@ -251,21 +227,15 @@ void readRestrictions(Workspace& ws, const ProfileFile& file) {
 }
 
 // Holidays and noted days are read by the key names the file holds, each a day.
-template <std::size_t FlagSlots>
-int readDays(const ProfileFile& file, const QString& section, std::array<int, FlagSlots>& flags,
+int readDays(const ProfileFile& file, const QString& section, std::span<int> flags,
              DayTexts& texts) {
     std::vector<QString> keys;
     const int count = modReadKeyNames(file, section, keys);
+    ProfileValues rows;
     for (int i = 1; i <= count; ++i) {
-        const std::optional<int> day = wholeNumber(keys[i]);
-        if (day && *day >= 0 && *day < static_cast<int>(FlagSlots)) {
-            flags[*day] = 1;
-        }
-        if (day && *day >= 0 && *day < kMonthDaySlots) {
-            texts[*day] = modReadProfileValue(file, section, keys[i]);
-        }
+        rows.emplace_back(keys[i], modReadProfileValue(file, section, keys[i]));
     }
-    return count > 0 ? 1 : 0;
+    return markDays(rows, flags, texts);
 }
 
 void readVacations(Workspace& ws, const ProfileFile& file) {
@@ -291,10 +261,47 @@ void readTitlesAndSettings(Workspace& ws, const ProfileFile& file) {
     ws.gSavedMonth = modReadProfileValue(file, kSettings, QStringLiteral("Current Month"));
     ws.gSavedYear = modReadProfileValue(file, kSettings, QStringLiteral("Current Year"));
     ws.gPrinterFormat = modReadProfileValue(file, kSettings, QStringLiteral("Printer Format"));
-    const double engine =
-        leadingNumber(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
-    ws.gEngine = roundToInt(engine).value_or(0);
+    ws.gEngine =
+        engineNumber(modReadProfileValue(file, kSettings, QStringLiteral("Scheduling Engine")));
 }
+
+// The schedule is not cleared first: a cell the file does not name keeps what it held.
+void readSchedule(Workspace& ws, const ProfileFile& file) {
+    const QString section = QStringLiteral("Schedule");
+    std::vector<QString> keys;
+    const int count = modReadKeyNames(file, section, keys);
+    for (int i = 1; i <= count; ++i) {
+        const std::vector<QString> fields = rowFields(file, section, QString::number(i));
+        if (fields.size() != 5) {
+            continue;
+        }
+        if (const auto at = indices<3>(fields, {kScheduleDays - 1, kShiftSlots - 1, kMaxSlot})) {
+            ws.schedule((*at)[0], (*at)[1], (*at)[2]) = fields[4];
+        }
+    }
+    ws.gScheduleGenerated = 1;
+}
+
+}  // namespace
+
+const std::array<TitleField, 16> kTitleFields = {{
+    {QStringLiteral("Calendar Title"), &Workspace::gCalendarTitle},
+    {QStringLiteral("Calendar Notes"), &Workspace::gCalendarNotes},
+    {QStringLiteral("Calendar Font"), &Workspace::gCalendarFont},
+    {QStringLiteral("Calendar Copies"), &Workspace::gCalendarCopies},
+    {QStringLiteral("Calendar Use First Name"), &Workspace::gCalendarUseFirstName},
+    {QStringLiteral("Calendar Hide Time Text"), &Workspace::gCalendarHideTimeText},
+    {QStringLiteral("Office Grid Title"), &Workspace::gGridTitle},
+    {QStringLiteral("Office Grid Notes"), &Workspace::gGridNotes},
+    {QStringLiteral("Office Grid Font"), &Workspace::gGridFont},
+    {QStringLiteral("Office Grid Copies"), &Workspace::gGridCopies},
+    {QStringLiteral("Tearsheet Font"), &Workspace::gTearsheetFont},
+    {QStringLiteral("Tearsheet Fontsize"), &Workspace::gTearsheetFontsize},
+    {QStringLiteral("Email Subject"), &Workspace::gEmailSubject},
+    {QStringLiteral("Email Body"), &Workspace::gEmailBody},
+    {QStringLiteral("Outlook Subject"), &Workspace::gOutlookSubject},
+    {QStringLiteral("Outlook Body"), &Workspace::gOutlookBody},
+}};
 
 ProfileValues applyTitleDefaults(Workspace& ws) {
     ProfileValues written;
@@ -321,24 +328,22 @@ void applySettings(Workspace& ws) {
     showPrinterFormat(ws);
 }
 
-// The schedule is not cleared first: a cell the file does not name keeps what it held.
-void readSchedule(Workspace& ws, const ProfileFile& file) {
-    const QString section = QStringLiteral("Schedule");
-    std::vector<QString> keys;
-    const int count = modReadKeyNames(file, section, keys);
-    for (int i = 1; i <= count; ++i) {
-        const std::vector<QString> fields = rowFields(file, section, QString::number(i));
-        if (fields.size() != 5) {
-            continue;
-        }
-        if (const auto at = indices<3>(fields, {kScheduleDays - 1, kShiftSlots - 1, kMaxSlot})) {
-            ws.schedule((*at)[0], (*at)[1], (*at)[2]) = fields[4];
-        }
-    }
-    ws.gScheduleGenerated = 1;
+int engineNumber(const QString& text) {
+    return roundToInt(leadingNumber(text)).value_or(0);
 }
 
-}  // namespace
+int markDays(const ProfileValues& rows, std::span<int> flags, DayTexts& texts) {
+    for (const auto& [key, text] : rows) {
+        const std::optional<int> day = wholeNumber(key);
+        if (day && *day >= 0 && *day < static_cast<int>(flags.size())) {
+            flags[*day] = 1;
+        }
+        if (day && *day >= 0 && *day < kMonthDaySlots) {
+            texts[*day] = text;
+        }
+    }
+    return rows.empty() ? 0 : 1;
+}
 
 QString scheduleFileText(Workspace& ws, FileKind kind) {
     ws.gHasRestrictions = ws.gHasNotedDays = ws.gHasHolidays = ws.gHasVacations = 0;

@@ -2,7 +2,12 @@
 
 #include "persistence/profileapi.h"
 
+#include "core/model/workspace.h"
+
 #include <QString>
+
+#include <array>
+#include <span>
 
 class ProfileFile;
 struct Workspace;
@@ -38,6 +43,28 @@ void takePrinterFormat(Workspace& ws);
 // The print boxes take the digits of gPrinterFormat; a digit that no box can show leaves its
 // box as it was.
 void showPrinterFormat(Workspace& ws);
+// A [Titles] key and the field it holds.
+struct TitleField {
+    QString key;
+    QString Workspace::*field;
+};
+// The [Titles] keys in the order the file holds them.
+extern const std::array<TitleField, 16> kTitleFields;
+
+// Gives the missing fonts, copies and display settings their defaults, and returns them
+// under the keys they are written back with.
+ProfileValues applyTitleDefaults(Workspace& ws);
+
+// Puts an engine or a printer format that is none back to its default, and shows both in
+// the engine list and the print boxes. A digit that no box can show leaves its box as it was.
+void applySettings(Workspace& ws);
+
+// The engine that a saved text names: the number it begins with, 0 when none.
+int engineNumber(const QString& text);
+
+// Marks the days that the rows name, each a day's number and its text, in flags and texts,
+// and returns 1, or 0 when there are no rows. A day beyond either table is passed over there.
+int markDays(const ProfileValues& rows, std::span<int> flags, DayTexts& texts);
 
 // Makes the month saved in the file, gSavedMonth and gSavedYear, the current month and
 // computes its calendar. A saved value that is no month or year leaves the current one.

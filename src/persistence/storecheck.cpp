@@ -1,17 +1,55 @@
 #include "persistence/storecheck.h"
 
-#include "core/model/textrules.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
 #include "core/services/log.h"
 #include "core/services/msgbox.h"
+#include "core/services/registryapi.h"
+#include "core/services/registrystore.h"
+#include "persistence/oldstore.h"
+#include "persistence/workspacefile.h"
 
 #include <QFileInfo>
 
+#include <array>
+
+namespace {
+
+// The keys of the old store, in the order they are removed.
+const std::array<QString, 9> kOldKeys = {
+    QStringLiteral("\\Agents"),     QStringLiteral("\\Log"),          QStringLiteral("\\Holidays"),
+    QStringLiteral("\\Noted Days"), QStringLiteral("\\Restrictions"), QStringLiteral("\\Settings"),
+    QStringLiteral("\\Shifts"),     QStringLiteral("\\Titles"),       QStringLiteral("\\Vacations"),
+};
+
+// Hidden and read-only files count as there; a directory does not.
+bool workingFileExists(const Workspace& ws) {
+    return QFileInfo(ws.gConfigFile).isFile();
+}
+
+}  // namespace
+
 void modMigrateOrCheckStore(Workspace& ws, Context& ctx) {
-    // Hidden and read-only files count as there; a directory does not.
-    if (QFileInfo(ws.gConfigFile).isFile()) {
+    // This version keeps one key below the base, "\Settings", where every save notes the
+    // version: a second key is left by an earlier version.
+    const bool earlierStore =
+        modRegListKeys(ctx.registry, kHkeyLocalMachine, ws.gRegistryBase).size() > 1;
+    // A store that cannot be emptied would be read again at every start, over the working
+    // file and every change made since: it is read only where there is no working file yet.
+    if (earlierStore && (ctx.registry.writable() || !workingFileExists(ws))) {
+        modStatus(ws, ctx, QStringLiteral("Found version of software predating 4.0.7"));
+        readOldStore(ws, ctx);
+        modSaveWorkspace(ws, ctx, QString());
+        modStatus(ws, ctx, QStringLiteral("Erasing previous configuration data in registry"));
+        for (const QString& key : kOldKeys) {
+            modRegDeleteTree(ctx.registry, kHkeyLocalMachine, ws.gRegistryBase + key);
+        }
+        for (const QString& key : kOldKeys) {
+            modRegDeleteKey(ctx.registry, kHkeyLocalMachine, ws.gRegistryBase + key);
+        }
+    }
+    if (workingFileExists(ws)) {
         return;
     }
     modStatus(ws, ctx, QStringLiteral("INI file not found at ") + ws.gConfigFile);

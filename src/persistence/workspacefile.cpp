@@ -3,7 +3,7 @@
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/msgbox.h"
-#include "core/services/registrystore.h"
+#include "core/services/registryapi.h"
 #include "core/services/textfile.h"
 #include "persistence/profileapi.h"
 #include "persistence/profilefile.h"
@@ -12,8 +12,8 @@
 bool modSaveWorkspace(Workspace& ws, Context& ctx, const QString& path) {
     const FileKind kind = path.isEmpty() ? FileKind::Working : FileKind::Schedule;
     const QString text = scheduleFileText(ws, kind);
-    ctx.registry.setValue(ws.gRegistryBase + QStringLiteral("\\Settings"),
-                          QStringLiteral("Version"), ws.versionText());
+    modRegSetValue(ctx.registry, kHkeyLocalMachine, ws.gRegistryBase + QStringLiteral("\\Settings"),
+                   QStringLiteral("Version"), ws.versionText());
     return writeTextFile(path.isEmpty() ? ws.gConfigFile : path, text);
 }
 

@@ -6,6 +6,7 @@
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
+#include "environment/probe.h"
 #include "persistence/storecheck.h"
 #include "persistence/workspacefile.h"
 #include "printing/printersetup.h"
@@ -24,6 +25,7 @@ void prepareWorkspace(Workspace& ws, Context& ctx, const QString& commandLine) {
     modInitSession(ws, ctx.launch.home);
     modInitNameTables(ws);
     modMigrateOrCheckStore(ws, ctx);
+    modProbeEnvironment(ws, ctx);
     modLogOpen(ws, ctx, commandLine);
     modLoadWorkspace(ws, ctx, QString());
     modBuildAgentKeys(ws);

@@ -14,6 +14,7 @@ struct Workspace;
 std::unique_ptr<QLockFile> claimProgramDirectory(const QString& appPath, bool& otherRunning);
 
 // The start-up's work behind the splash: the session in the launch's folder, the name
-// tables, the check of the working file, the log's run header, the working file read, the
+// tables, the move of an earlier version's store and the check of the working file, the
+// machine's facts and the rights check, the log's run header, the working file read, the
 // agents' keys, the coming month and its calendar, the printer's font table.
 void prepareWorkspace(Workspace& ws, Context& ctx, const QString& commandLine);

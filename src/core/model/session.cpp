@@ -10,7 +10,7 @@ void modInitSession(Workspace& ws, const QString& appPath) {
     ws.gVersionRevision = DESKO_VERSION_REVISION;
     ws.gDirty.reset();
     ws.gAppPath = QDir::cleanPath(appPath);
-    ws.gRegistryBase = QStringLiteral("Software\\Tavrel Software\\Desko for Windows rev 4.0");
+    ws.gRegistryBase = kRegistryBase;
     ws.gConfigFile = ws.gAppPath + QStringLiteral("/Desko40.ini");
     ws.gLogFile = ws.gAppPath + QStringLiteral("/Desko40.log");
     ws.gScheduleTag = QStringLiteral(" [not saved]");

@@ -4,6 +4,10 @@
 
 struct Workspace;
 
+// The registry key below which the program keeps its settings.
+inline const QString kRegistryBase =
+    QStringLiteral("Software\\Tavrel Software\\Desko for Windows rev 4.0");
+
 // Fills the session state of a new run in the program directory appPath: version, paths of
 // the working file and the log, the registry key, an unset change flag and the caption tag
 // of an unsaved workspace.

@@ -6,6 +6,7 @@
 
 class Clock;
 class Dialogs;
+class Machine;
 class Printers;
 class RegistryStore;
 
@@ -19,4 +20,6 @@ struct Context {
     Launch launch{};
     // The printers of the run; none where nothing can be printed.
     Printers* printers = nullptr;
+    // The machine the start-up asks for its facts; none where nothing is to be asked.
+    const Machine* machine = nullptr;
 };

@@ -1,33 +1,217 @@
 #include "core/services/registrystore.h"
 
+#include "core/services/textfile.h"
+
+#include <QFileInfo>
 #include <QSettings>
 
 namespace {
 
-// Key paths compare without regard to case, as registry keys do.
-QString settingsKey(const QString& key, const QString& name) {
-    QString path = key.toLower();
-    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return path + QLatin1Char('/') + name.toLower();
+const QChar kKeySeparator = QLatin1Char('\\');
+
+QStringList partsOf(const QString& key) {
+    return key.split(kKeySeparator, Qt::SkipEmptyParts);
+}
+
+template <typename Map>
+QStringList namesOf(const Map& map) {
+    QStringList names;
+    for (const auto& entry : map) {
+        names.append(entry.first);
+    }
+    return names;
+}
+
+// A value as text. A settings file written by hand may hold a list, "a, b", where a text
+// with a comma was meant.
+QString textOf(const QVariant& value) {
+    return value.typeId() == QMetaType::QStringList
+               ? value.toStringList().join(QStringLiteral(", "))
+               : value.toString();
 }
 
 }  // namespace
 
-void FileRegistryStore::setValue(const QString& key, const QString& name, const QString& value) {
-    QSettings settings(path_, QSettings::IniFormat);
-    settings.setValue(settingsKey(key, name), value);
-}
-
-QString FileRegistryStore::value(const QString& key, const QString& name) const {
-    const QSettings settings(path_, QSettings::IniFormat);
-    return settings.value(settingsKey(key, name)).toString();
+template <typename Self>
+auto* MemoryRegistryStore::find(Self& self, const QString& key) {
+    auto* node = &self.root_;
+    for (const QString& part : partsOf(key)) {
+        const auto it = node->keys.find(part);
+        if (it == node->keys.end()) {
+            return decltype(node){nullptr};
+        }
+        node = &it->second;
+    }
+    return node;
 }
 
 void MemoryRegistryStore::setValue(const QString& key, const QString& name, const QString& value) {
-    values_[{key.toLower(), name.toLower()}] = value;
+    Node* node = &root_;
+    for (const QString& part : partsOf(key)) {
+        node = &node->keys[part];
+    }
+    node->values[name] = value;
 }
 
 QString MemoryRegistryStore::value(const QString& key, const QString& name) const {
-    const auto it = values_.find({key.toLower(), name.toLower()});
-    return it == values_.end() ? QString() : it->second;
+    const Node* node = find(*this, key);
+    if (node == nullptr) {
+        return QString();
+    }
+    const auto it = node->values.find(name);
+    return it == node->values.end() ? QString() : it->second;
+}
+
+QStringList MemoryRegistryStore::valueNames(const QString& key) const {
+    const Node* node = find(*this, key);
+    return node == nullptr ? QStringList() : namesOf(node->values);
+}
+
+QStringList MemoryRegistryStore::keyNames(const QString& key) const {
+    const Node* node = find(*this, key);
+    return node == nullptr ? QStringList() : namesOf(node->keys);
+}
+
+void MemoryRegistryStore::deleteKey(const QString& key) {
+    QStringList parts = partsOf(key);
+    if (parts.isEmpty()) {
+        return;
+    }
+    const QString last = parts.takeLast();
+    if (Node* parent = find(*this, parts.join(kKeySeparator))) {
+        parent->keys.erase(last);
+    }
+}
+
+void MemoryRegistryStore::deleteValue(const QString& key, const QString& name) {
+    if (Node* node = find(*this, key)) {
+        node->values.erase(name);
+    }
+}
+
+SettingsRegistryStore::SettingsRegistryStore(const QString& path, const QString& base)
+    : SettingsRegistryStore(std::make_unique<QSettings>(path, QSettings::IniFormat), base, true) {}
+
+std::unique_ptr<SettingsRegistryStore> SettingsRegistryStore::native(const QString& base) {
+    const QStringList parts = partsOf(base);
+    const QString organisation = parts.value(1);
+    const QString application = parts.value(parts.size() - 1);
+#ifdef Q_OS_WIN
+    auto settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::SystemScope,
+                                                organisation, application);
+    const bool inFile = false;
+#else
+    auto settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
+                                                organisation, application);
+    const bool inFile = true;
+#endif
+    return std::unique_ptr<SettingsRegistryStore>(
+        new SettingsRegistryStore(std::move(settings), base, inFile));
+}
+
+SettingsRegistryStore::SettingsRegistryStore(std::unique_ptr<QSettings> settings,
+                                             const QString& base, bool inFile)
+    : settings_(std::move(settings)), base_(base), inFile_(inFile) {
+    // Only this file counts: a store that other scopes lent values to could never be emptied.
+    settings_->setFallbacksEnabled(false);
+    const QStringList paths = settings_->allKeys();
+    // A file that cannot be read whole is left as it is: nothing of it is taken for a store
+    // of an earlier version, and nothing is written over it.
+    damaged_ = settings_->status() == QSettings::FormatError;
+    for (const QString& path : damaged_ ? QStringList() : paths) {
+        QStringList parts = path.split(QLatin1Char('/'));
+        const QString name = parts.takeLast();
+        parts.prepend(base_);
+        contents_.setValue(parts.join(kKeySeparator), name, textOf(settings_->value(path)));
+    }
+}
+
+// Pending removals are written as the settings close.
+SettingsRegistryStore::~SettingsRegistryStore() = default;
+
+std::optional<QString> SettingsRegistryStore::pathOf(const QString& key,
+                                                     const QString& name) const {
+    QStringList parts = partsOf(key);
+    const QStringList baseParts = partsOf(base_);
+    if (parts.mid(0, baseParts.size()) != baseParts) {
+        return std::nullopt;
+    }
+    parts = parts.mid(baseParts.size());
+    if (!name.isEmpty()) {
+        parts.append(name);
+    }
+    return parts.join(QLatin1Char('/'));
+}
+
+void SettingsRegistryStore::setValue(const QString& key, const QString& name,
+                                     const QString& value) {
+    const std::optional<QString> path = pathOf(key, name);
+    if (!path || !writable()) {
+        return;
+    }
+    settings_->setValue(*path, value);
+    settings_->sync();
+    if (settings_->status() != QSettings::AccessError) {
+        contents_.setValue(key, name, value);
+        return;
+    }
+    // Undone, so that a later write of other changes cannot store it after all.
+    if (contents_.valueNames(key).contains(name)) {
+        settings_->setValue(*path, contents_.value(key, name));
+    } else {
+        settings_->remove(*path);
+    }
+}
+
+QString SettingsRegistryStore::value(const QString& key, const QString& name) const {
+    return contents_.value(key, name);
+}
+
+QStringList SettingsRegistryStore::valueNames(const QString& key) const {
+    return contents_.valueNames(key);
+}
+
+QStringList SettingsRegistryStore::keyNames(const QString& key) const {
+    return contents_.keyNames(key);
+}
+
+void SettingsRegistryStore::deleteKey(const QString& key) {
+    const std::optional<QString> path = pathOf(key);
+    if (path && writable()) {
+        settings_->remove(*path);
+        contents_.deleteKey(key);
+    }
+}
+
+void SettingsRegistryStore::deleteValue(const QString& key, const QString& name) {
+    const std::optional<QString> path = pathOf(key, name);
+    if (path && writable()) {
+        // A settings file removes the subkey of the same name with the value.
+        settings_->remove(*path);
+        contents_.deleteValue(key, name);
+        contents_.deleteKey(key + kKeySeparator + name);
+    }
+}
+
+void SettingsRegistryStore::flush() {
+    if (writable()) {
+        settings_->sync();
+    }
+}
+
+bool SettingsRegistryStore::writable() const {
+    if (damaged_) {
+        return false;
+    }
+    if (!inFile_) {
+        return true;  // the registry tells by failing
+    }
+    // The settings are written to a new file beside the old one, which then takes its place;
+    // a missing folder is made, below the nearest one that is there.
+    const QString file = settings_->fileName();
+    QFileInfo folder(QFileInfo(file).absolutePath());
+    while (!folder.exists() && !folder.isRoot()) {
+        folder = QFileInfo(folder.absolutePath());
+    }
+    return !isReadOnlyFile(file) && folder.isDir() && !isReadOnlyDirectory(folder.filePath());
 }

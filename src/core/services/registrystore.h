@@ -1,30 +1,35 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
-#include <utility>
+#include <memory>
+#include <optional>
 
-// The machine-wide settings store. Keys are paths below the machine root with "\" between
-// their parts, as "Software\Maker\Program\Settings"; all values are text.
+class QSettings;
+
+// The machine's settings store, a tree of keys that hold named text values. A key is the path
+// below the machine's root with "\" between its parts, as "Software\Maker\Program\Settings".
+// Names compare exactly; keys and values are listed in sorted order.
 class RegistryStore {
 public:
     virtual ~RegistryStore() = default;
-    // Creates the key when it is missing. A store that cannot be written drops the value.
+    // Creates the key and those above it when missing. A store that cannot be written keeps
+    // nothing of the value, so that reading it back tells whether it was stored.
     virtual void setValue(const QString& key, const QString& name, const QString& value) = 0;
     // The empty text for a missing key or value.
     virtual QString value(const QString& key, const QString& name) const = 0;
-};
-
-// A store kept in one settings file; it stands in for the registry where there is none.
-class FileRegistryStore final : public RegistryStore {
-public:
-    explicit FileRegistryStore(QString path) : path_(std::move(path)) {}
-    void setValue(const QString& key, const QString& name, const QString& value) override;
-    QString value(const QString& key, const QString& name) const override;
-
-private:
-    QString path_;
+    // The names of the key's values and of its subkeys; none for a missing key.
+    virtual QStringList valueNames(const QString& key) const = 0;
+    virtual QStringList keyNames(const QString& key) const = 0;
+    // Remove a key with everything below it, and a single value. A store may keep removals
+    // pending until flush(), so that emptying a large tree costs one write.
+    virtual void deleteKey(const QString& key) = 0;
+    virtual void deleteValue(const QString& key, const QString& name) = 0;
+    virtual void flush() = 0;
+    // Whether changes can be stored at all.
+    virtual bool writable() const = 0;
 };
 
 // A store that lives as long as the process: for runs that must leave nothing behind.
@@ -32,7 +37,57 @@ class MemoryRegistryStore final : public RegistryStore {
 public:
     void setValue(const QString& key, const QString& name, const QString& value) override;
     QString value(const QString& key, const QString& name) const override;
+    QStringList valueNames(const QString& key) const override;
+    QStringList keyNames(const QString& key) const override;
+    void deleteKey(const QString& key) override;
+    void deleteValue(const QString& key, const QString& name) override;
+    void flush() override {}
+    bool writable() const override { return true; }
 
 private:
-    std::map<std::pair<QString, QString>, QString> values_;
+    struct Node {
+        std::map<QString, Node> keys;
+        std::map<QString, QString> values;
+    };
+    // The key's node, or nullptr when it is missing.
+    template <typename Self>
+    static auto* find(Self& self, const QString& key);
+
+    Node root_;
+};
+
+// A store kept by QSettings: the tree below one base key, in a settings file of its own or,
+// on Windows, in the registry itself. Its contents are read once, when it is opened. A file
+// that cannot be read whole counts as empty, and cannot be written.
+class SettingsRegistryStore final : public RegistryStore {
+public:
+    // The settings file at path, in the portable INI format.
+    SettingsRegistryStore(const QString& path, const QString& base);
+    // The program's store, in the platform's own format: the registry's machine branch on
+    // Windows; elsewhere the user's settings file, since the machine's is not the user's to
+    // write, named after the organisation and the application that the base key names
+    // ("Software\Organisation\Application").
+    static std::unique_ptr<SettingsRegistryStore> native(const QString& base);
+    ~SettingsRegistryStore() override;
+
+    void setValue(const QString& key, const QString& name, const QString& value) override;
+    QString value(const QString& key, const QString& name) const override;
+    QStringList valueNames(const QString& key) const override;
+    QStringList keyNames(const QString& key) const override;
+    void deleteKey(const QString& key) override;
+    void deleteValue(const QString& key, const QString& name) override;
+    void flush() override;
+    bool writable() const override;
+
+private:
+    SettingsRegistryStore(std::unique_ptr<QSettings> settings, const QString& base, bool inFile);
+    // The settings' path of a key, or of a key's value; nothing for a key outside the base.
+    std::optional<QString> pathOf(const QString& key, const QString& name = QString()) const;
+
+    std::unique_ptr<QSettings> settings_;
+    QString base_;
+    bool inFile_;
+    bool damaged_ = false;
+    // What the settings hold, for quick reading and listing.
+    MemoryRegistryStore contents_;
 };

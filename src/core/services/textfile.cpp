@@ -26,6 +26,14 @@ QString decodeCp1252(const QByteArray& bytes) {
     return text;
 }
 
+// A file or a directory without write permission counts as read-only for every user, the
+// superuser included, as a read-only file does on other systems.
+bool isReadOnly(const QFileInfo& info) {
+    constexpr QFile::Permissions kAnyWrite =
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return info.exists() && (!info.isWritable() || !(info.permissions() & kAnyWrite));
+}
+
 }  // namespace
 
 QString decodeText(const QByteArray& bytes) {
@@ -43,16 +51,18 @@ std::optional<QString> readTextFile(const QString& path) {
 }
 
 bool isReadOnlyFile(const QString& path) {
-    // A file without write permission counts as read-only for every user, the superuser
-    // included, as a read-only file does on other systems.
-    constexpr QFile::Permissions kAnyWrite =
-        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return isReadOnly(QFileInfo(path));
+}
+
+bool isReadOnlyDirectory(const QString& path) {
     const QFileInfo info(path);
-    return info.exists() && (!info.isWritable() || !(info.permissions() & kAnyWrite));
+    return info.isDir() && isReadOnly(info);
 }
 
 bool writeTextFile(const QString& path, const QString& text) {
-    if (path.isEmpty() || QFileInfo(path).isDir() || isReadOnlyFile(path)) {
+    const QFileInfo info(path);
+    if (path.isEmpty() || info.isDir() || isReadOnlyFile(path) ||
+        isReadOnlyDirectory(info.absolutePath())) {
         return false;
     }
     QSaveFile file(path);

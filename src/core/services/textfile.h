@@ -16,6 +16,9 @@ std::optional<QString> readTextFile(const QString& path);
 // True for an existing file that may not be written.
 bool isReadOnlyFile(const QString& path);
 
+// True for an existing directory in which no file may be made.
+bool isReadOnlyDirectory(const QString& path);
+
 // Replaces the file's contents with the text, in UTF-8. The new contents go to a temporary
 // file in the same directory first and take the file's place only when complete, so a
 // failure at any point leaves the old contents. A read-only file, a read-only or missing

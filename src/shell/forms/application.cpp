@@ -1,12 +1,14 @@
 #include "shell/forms/application.h"
 
 #include "core/forms/facewindow.h"
+#include "core/model/session.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/launch.h"
 #include "core/services/printers.h"
 #include "core/services/registrystore.h"
+#include "environment/systemmachine.h"
 #include "printing/forms/machineprinters.h"
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
@@ -24,8 +26,10 @@ int runProgram(QApplication& app, const Launch& launch, const std::function<void
     Workspace ws;
     SystemClock clock;
     QtDialogs dialogs;
-    FileRegistryStore registry(launch.home + QStringLiteral("/Desko40.reg"));
-    Context ctx{clock, dialogs, registry, {}, {}, launch};
+    const std::unique_ptr<RegistryStore> registry = SettingsRegistryStore::native(kRegistryBase);
+    const SystemMachine machine;
+    Context ctx{clock, dialogs, *registry, {}, {}, launch};
+    ctx.machine = &machine;
     const std::unique_ptr<Printers> printers = machinePrinters(launch.pdfDir);
     ctx.printers = printers.get();
 

@@ -1,0 +1,74 @@
+#include "core/model/calendar.h"
+#include "core/model/session.h"
+#include "core/model/workspace.h"
+#include "core/services/registrystore.h"
+#include "core/services/textfile.h"
+#include "fakes.h"
+#include "persistence/storecheck.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+// An earlier version's store goes into the working file once and is removed. A store that
+// cannot be written stays, and is read only where there is no working file yet, so that a
+// later start cannot read it again over the user's work. A store of this version, with its
+// one key, is left alone.
+TEST(OldStore, MovesIntoTheWorkingFileOnce) {
+    const struct {
+        QString store;
+        bool readOnly;
+        bool workingFile;
+        bool moved;
+        qsizetype keysLeft;
+    } cases[] = {
+        {golden("oldstore.conf"), false, false, true, 0},
+        {golden("oldstore.conf"), true, false, true, 9},
+        {golden("oldstore.conf"), true, true, false, 9},
+        {QStringLiteral("[Settings]\nVersion=4.0.10\n"), false, false, false, 1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.readOnly << c.workingFile);
+        QTemporaryDir home;
+        QTemporaryDir settings;
+        const QString storeFile = settings.filePath(QStringLiteral("store.conf"));
+        ASSERT_TRUE(writeTextFile(storeFile, c.store));
+        if (c.readOnly) {
+            QFile::setPermissions(storeFile, QFile::ReadOwner);
+        }
+        SettingsRegistryStore store(storeFile, kRegistryBase);
+        TestServices s;
+        Context ctx{s.clock, s.dialogs, store, {}, {}, {}};
+        Workspace ws;
+        modInitSession(ws, home.path());
+        modInitNameTables(ws);
+        const QString before = golden("office.ini");
+        if (c.workingFile) {
+            ASSERT_TRUE(writeTextFile(ws.gConfigFile, before));
+        }
+
+        modMigrateOrCheckStore(ws, ctx);
+
+        EXPECT_EQ(logged(ws, QStringLiteral("Found version of software predating 4.0.7")), c.moved);
+        EXPECT_EQ(logged(ws, QStringLiteral("Erasing previous configuration data in registry")),
+                  c.moved);
+        EXPECT_EQ(fileText(ws.gConfigFile),
+                  c.moved ? golden("migrated.ini") : (c.workingFile ? before : QString()));
+        EXPECT_EQ(s.dialogs.shown.size(), c.moved || c.workingFile ? 0U : 1U);
+        EXPECT_EQ(SettingsRegistryStore(storeFile, kRegistryBase).keyNames(kRegistryBase).size(),
+                  c.keysLeft);
+        if (!c.moved) {
+            continue;
+        }
+        // What the working file cannot show: the day tables of a month it was not saved for,
+        // and a count of agents below one, which stays as it was read.
+        EXPECT_EQ(ws.gShiftAgents[1], (ShiftTable::value_type{0, 0, 0, -2, 0, 0, 0}));
+        EXPECT_EQ(ws.gVacation[2][4] + ws.gVacation[2][5], 2);
+        EXPECT_EQ(ws.gNotedText[8], QStringLiteral("Staff meeting, room 2"));
+        // The holidays' list ends at the name that marks the end of a list, which sorts
+        // first.
+        EXPECT_EQ(ws.gHoliday[1] + ws.gHoliday[25], 0);
+        EXPECT_EQ(ws.gSavedMonth, QStringLiteral("6"));
+    }
+}
