@@ -1,20 +1,18 @@
 #include "cli/commands.h"
 
+#include "cli/exportverb.h"
+#include "cli/session.h"
 #include "core/model/calendar.h"
 #include "core/model/session.h"
 #include "core/model/shifttime.h"
 #include "core/model/workspace.h"
 #include "core/services/clock.h"
 #include "core/services/context.h"
-#include "core/services/dialogs.h"
 #include "core/services/randomsequence.h"
-#include "core/services/registrystore.h"
 #include "generation/generate.h"
 #include "persistence/scheduleformat.h"
 #include "persistence/workspacefile.h"
 #include "shell/filecommands.h"
-
-#include <QFileInfo>
 
 #include <optional>
 
@@ -26,57 +24,12 @@ const QString kUsage = QStringLiteral(
     "       desko40-cli resave [--working] IN OUT\n"
     "       desko40-cli keys FILE\n"
     "       desko40-cli generate IN OUT --engine smartrandom|shuffled|horizontal|mixed\n"
-    "                   [--seed S] [--base B] [--working]\n");
-
-// The tool's message boxes are lines on standard error; a line has no width to keep.
-class ConsoleDialogs final : public Dialogs {
-public:
-    explicit ConsoleDialogs(QTextStream& err, QString subject)
-        : err_(err), subject_(std::move(subject)) {}
-    // Every question is answered Yes: the command line said what to do.
-    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) override {
-        err_ << "desko40-cli: " << subject_ << ": " << text << '\n';
-        return buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel ? MsgAnswer::Yes
-                                                                                  : MsgAnswer::OK;
-    }
-    double textWidth(const QString&) const override { return 0.0; }
-
-private:
-    QTextStream& err_;
-    QString subject_;
-};
-
-// A workspace as a run of the program has it before reading any file. The tool leaves no
-// trace on the machine: no log and no working file, and the settings store lives only as
-// long as the command.
-struct Session {
-    Session(QTextStream& err, const QString& subject, const Launch& launch)
-        : dialogs(err, subject), ctx{clock, dialogs, registry, {}, {}, launch} {
-        modInitNameTables(ws);
-        modInitSession(ws, launch.home);
-        ws.gLogFile.clear();
-        ws.gConfigFile.clear();
-    }
-    Workspace ws;
-    SystemClock clock;
-    ConsoleDialogs dialogs;
-    MemoryRegistryStore registry;
-    Context ctx;
-};
+    "                   [--seed S] [--base B] [--working]\n"
+    "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR]\n");
 
 int usage(QTextStream& err) {
     err << kUsage;
     return 2;
-}
-
-int fail(QTextStream& err, const QString& path, const QString& what) {
-    err << "desko40-cli: " << path << ": " << what << '\n';
-    return 1;
-}
-
-bool readable(const QString& path) {
-    const QFileInfo info(path);
-    return info.isFile() && info.isReadable();
 }
 
 std::optional<int> number(const QString& text) {
@@ -275,6 +228,10 @@ int runCommand(const QStringList& args, QTextStream& out, QTextStream& err, cons
     }
     if (command == QStringLiteral("generate")) {
         return generate(args, err, launch);
+    }
+    if (command == QStringLiteral("export")) {
+        const std::optional<int> status = exportSchedule(args, err, launch);
+        return status ? *status : usage(err);
     }
     return usage(err);
 }

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/model/workspace.h"
+#include "core/services/clock.h"
+#include "core/services/context.h"
+#include "core/services/dialogs.h"
+#include "core/services/registrystore.h"
+
+#include <QTextStream>
+
+#include <optional>
+
+// The tool's message boxes are lines on standard error; a line has no width to keep.
+class ConsoleDialogs final : public Dialogs {
+public:
+    ConsoleDialogs(QTextStream& err, QString subject);
+    // Every question is answered Yes: the command line said what to do.
+    MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) override;
+    double textWidth(const QString&) const override { return 0.0; }
+    // Every save dialog is answered with the file the command line named; without one, it
+    // is cancelled.
+    std::optional<QString> saveFileDialog(const FileDialog&) override { return savedFile; }
+
+    std::optional<QString> savedFile;
+
+private:
+    QTextStream& err_;
+    QString subject_;
+};
+
+// A workspace as a run of the program has it before reading any file. The tool leaves no
+// trace on the machine: no log and no working file, and the settings store lives only as
+// long as the command.
+struct Session {
+    Session(QTextStream& err, const QString& subject, const Launch& launch);
+    Workspace ws;
+    SystemClock clock;
+    ConsoleDialogs dialogs;
+    MemoryRegistryStore registry;
+    Context ctx;
+};
+
+// Tells that a file is refused: one line naming it. Status 1.
+int fail(QTextStream& err, const QString& path, const QString& what);
+
+bool readable(const QString& path);
