@@ -22,12 +22,14 @@ size_t readMessage(char* buffer, size_t size, size_t count, void* user) {
     return static_cast<size_t>(length);
 }
 
-// Keeps the last line the server said. Only what comes in is looked at: what goes out
-// carries the login.
-int keepServerReply(CURL*, curl_infotype type, char* data, size_t size, void* user) {
-    if (type == CURLINFO_HEADER_IN) {
-        const QByteArray lines = QByteArray(data, static_cast<qsizetype>(size)).trimmed();
-        *static_cast<QByteArray*>(user) = lines.mid(lines.lastIndexOf('\n') + 1).trimmed();
+// Keeps the server's first refusal of a message, a reply beginning with 4 or 5. Only what
+// comes in is looked at: what goes out carries the login.
+int keepServerRefusal(CURL*, curl_infotype type, char* data, size_t size, void* user) {
+    auto* refusal = static_cast<QByteArray*>(user);
+    const QByteArray line = QByteArray(data, static_cast<qsizetype>(size)).trimmed();
+    if (type == CURLINFO_HEADER_IN && refusal->isEmpty() &&
+        (line.startsWith('4') || line.startsWith('5'))) {
+        *refusal = line;
     }
     return 0;
 }
@@ -87,8 +89,8 @@ SmtpTransport::SmtpTransport(const MailAccount& account, QString password)
     curl_easy_setopt(curl, CURLOPT_READFUNCTION, readMessage);
     curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, errors_.data());
     curl_easy_setopt(curl, CURLOPT_VERBOSE, 1L);
-    curl_easy_setopt(curl, CURLOPT_DEBUGFUNCTION, keepServerReply);
-    curl_easy_setopt(curl, CURLOPT_DEBUGDATA, &lastReply_);
+    curl_easy_setopt(curl, CURLOPT_DEBUGFUNCTION, keepServerRefusal);
+    curl_easy_setopt(curl, CURLOPT_DEBUGDATA, &refusal_);
     if (account.tls && account.starttls) {
         curl_easy_setopt(curl, CURLOPT_USE_SSL, static_cast<long>(CURLUSESSL_ALL));
     }
@@ -122,7 +124,7 @@ std::optional<SendFailure> SmtpTransport::send(const QByteArray& message, const 
     curl_easy_setopt(curl, CURLOPT_MAIL_FROM, sender.constData());
     curl_easy_setopt(curl, CURLOPT_MAIL_RCPT, recipients);
     curl_easy_setopt(curl, CURLOPT_READDATA, &upload);
-    lastReply_.clear();
+    refusal_.clear();
     errors_[0] = '\0';
     const CURLcode code = curl_easy_perform(curl);
     curl_easy_setopt(curl, CURLOPT_MAIL_RCPT, nullptr);
@@ -135,11 +137,10 @@ std::optional<SendFailure> SmtpTransport::send(const QByteArray& message, const 
 
 std::optional<SendFailure> SmtpTransport::failureOf(int code) {
     const auto curlCode = static_cast<CURLcode>(code);
-    // The server's own refusal, when its last word was one: "550 5.1.1 No such user".
-    const int reply = lastReply_.left(3).toInt();
+    // The server's own words where it refused: "550 5.1.1 No such user".
     SendFailure failure;
-    if (reply >= 400 && reply <= 599) {
-        failure = {reply, QString::fromUtf8(lastReply_)};
+    if (const int reply = refusal_.left(3).toInt(); reply >= 400 && reply <= 599) {
+        failure = {reply, QString::fromUtf8(refusal_)};
     } else {
         failure = {code, QString::fromUtf8(errors_[0] != '\0' ? errors_.data()
                                                               : curl_easy_strerror(curlCode))};

@@ -33,7 +33,7 @@ private:
 
     void* curl_;  // the one libcurl handle, which keeps the connection between messages
     QString password_;
-    QByteArray lastReply_;            // the server's last reply line, for the failure's description
+    QByteArray refusal_;              // the server's refusal of the message in hand, if any
     std::array<char, 256> errors_{};  // libcurl's words for its own failures
     std::optional<SendFailure> unreachable_;
 };

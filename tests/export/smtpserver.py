@@ -18,6 +18,7 @@ import select
 import socket
 import ssl
 import sys
+import warnings
 
 import icalendar
 from aiosmtpd.controller import Controller
@@ -88,6 +89,7 @@ class Handler:
 
 
 def main():
+    warnings.simplefilter("ignore")
     parser = argparse.ArgumentParser()
     parser.add_argument("file")
     parser.add_argument("--tls", nargs=2)
@@ -120,7 +122,7 @@ def main():
 
         def authenticate(server, session, envelope, mechanism, data):
             ok = isinstance(data, LoginPassword) and (data.login, data.password) == (user, password)
-            return AuthResult(success=ok)
+            return AuthResult(success=ok, handled=False)
 
         settings.update(authenticator=authenticate, auth_required=True)
     port = free_port()
