@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -208,6 +209,9 @@ std::optional<int> QtDialogs::chooseItem(const QString& prompt, const QStringLis
     list->setAccessibleName(prompt);
     list->addItems(items);
     list->setCurrentRow(0);
+    // Wide enough for the longest item, so that no address is cut.
+    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() +
+                          list->verticalScrollBar()->sizeHint().width());
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &box);
     QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
