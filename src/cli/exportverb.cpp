@@ -14,19 +14,6 @@
 
 namespace {
 
-// The tool has no window to show the export's progress in.
-class NoExportView final : public ExportView {
-public:
-    void untickExportBox(int) override {}
-    void beginExport(const QString&) override {}
-    void showStatus(const QString&) override {}
-    void showProgressBar(const QString&) override {}
-    void showProgress(double) override {}
-    void hideProgressBar() override {}
-    void doEvents() override {}
-    void endExport() override {}
-};
-
 // Writes each message into a folder, made when missing, as NNNN.eml in sending order: the
 // very bytes a mail server would have been given.
 class OutboxTransport final : public MailTransport {
@@ -115,7 +102,7 @@ std::optional<int> exportSchedule(const QStringList& args, QTextStream& err, con
         }
         return std::make_unique<SmtpTransport>(account, password);
     });
-    NoExportView view;
+    HeadlessExportView view;
     cmdExport(ws, session.ctx, view, mail);
     return 0;
 }

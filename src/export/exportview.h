@@ -26,3 +26,16 @@ public:
     // Workspace, and the normal pointer.
     virtual void endExport() = 0;
 };
+
+// Where there is no window, as in the headless tool: nothing to show.
+class HeadlessExportView final : public ExportView {
+public:
+    void untickExportBox(int) override {}
+    void beginExport(const QString&) override {}
+    void showStatus(const QString&) override {}
+    void showProgressBar(const QString&) override {}
+    void showProgress(double) override {}
+    void hideProgressBar() override {}
+    void doEvents() override {}
+    void endExport() override {}
+};
