@@ -1,52 +1,28 @@
-"""A mail server on 127.0.0.1 for the export's tests, on Debian's aiosmtpd.
-
-usage: smtpserver.py FILE [--tls CERT KEY] [--login USER PASSWORD] [--refuse ADDRESS]
-                          [--drop-at N] [--silent]
-
-Prints its port on a line once it listens and serves until its standard input closes. Each
-message it accepts is a line of JSON in FILE: the envelope, the headers as a reader decodes
-them, the plain text, and the calendar request as python3-icalendar reads it. --tls offers
-STARTTLS and requires it, --login requires that login, --refuse answers 550 to that
-recipient, --drop-at cuts the connection while the Nth message is delivered, and --silent
-accepts connections and never says a word.
-"""
-import argparse
-import email
-import email.policy
-import json
-import select
-import socket
-import ssl
-import sys
-import warnings
+# A mail server on 127.0.0.1 for the export's tests, on Debian's aiosmtpd.
+#
+# usage: smtpserver.py FILE [--tls CERT KEY] [--login USER PASSWORD] [--refuse ADDRESS]
+#                           [--drop-at N] [--silent]
+#
+# Prints its port once it listens, and serves until its standard input closes. Each message it
+# takes is a line of JSON in FILE: the envelope, the headers as a reader decodes them, the
+# plain text, and the calendar request as python3-icalendar reads it. --tls requires STARTTLS,
+# --login that login; --refuse answers 550 to that recipient, --drop-at cuts the connection
+# during the Nth message, and --silent never says a word.
+import argparse, email.policy, json, logging, select, socket, ssl, sys
 
 import icalendar
 from aiosmtpd.controller import Controller
 from aiosmtpd.smtp import AuthResult, LoginPassword
 
 
-def free_port():
-    with socket.socket() as probe:
-        probe.bind(("127.0.0.1", 0))
-        return probe.getsockname()[1]
-
-
 def calendar_of(part):
     calendar = icalendar.Calendar.from_ical(part.get_content())
     event = next(c for c in calendar.walk() if c.name == "VEVENT")
-    attendee = event["ATTENDEE"]
-    return {
-        "method": str(calendar["METHOD"]),
-        "typeMethod": part.get_param("method"),
-        "timezones": len([c for c in calendar.walk() if c.name == "VTIMEZONE"]),
-        "start": event.decoded("DTSTART").isoformat(),
-        "end": event.decoded("DTEND").isoformat(),
-        "attendee": str(attendee),
-        "rsvp": attendee.params.get("RSVP"),
-        "organizer": str(event["ORGANIZER"]),
-        "uid": str(event["UID"]),
-        "summary": str(event.get("SUMMARY", "")),
-    }
+    return {"method": str(calendar["METHOD"]), "typeMethod": part.get_param("method"),
+            "timezones": len([c for c in calendar.walk() if c.name == "VTIMEZONE"]),
+            "start": event.decoded("DTSTART").isoformat(), "end": event.decoded("DTEND").isoformat(),
+            "attendee": str(event["ATTENDEE"]), "rsvp": event["ATTENDEE"].params.get("RSVP"),
+            "organizer": str(event["ORGANIZER"]), "uid": str(event["UID"])}
 
 
 class Handler:
@@ -66,18 +42,8 @@ class Handler:
             server.transport.abort()
             return "421 gone"
         message = email.message_from_bytes(envelope.content, policy=email.policy.default)
-        received = {
-            "peer": session.peer[1],
-            "mailFrom": envelope.mail_from,
-            "rcpt": envelope.rcpt_tos,
-            "to": str(message["To"]),
-            "from": str(message["From"]),
-            "subject": str(message["Subject"]),
-            "date": str(message["Date"]),
-            "messageId": str(message["Message-ID"]),
-            "text": None,
-            "calendar": None,
-        }
+        received = {"peer": session.peer[1], "rcpt": envelope.rcpt_tos, "to": str(message["To"]),
+                    "subject": str(message["Subject"]), "text": None, "calendar": None}
         for part in message.walk():
             if part.get_content_type() == "text/plain":
                 received["text"] = part.get_content().replace("\r\n", "\n")
@@ -88,8 +54,19 @@ class Handler:
         return "250 OK"
 
 
+def serve_silently():
+    listener = socket.create_server(("127.0.0.1", 0))
+    print(listener.getsockname()[1], flush=True)
+    held = []
+    while True:
+        ready = select.select([listener, sys.stdin], [], [])[0]
+        if sys.stdin in ready and not sys.stdin.read(1):
+            return
+        if listener in ready:
+            held.append(listener.accept()[0])
+
+
 def main():
-    warnings.simplefilter("ignore")
     parser = argparse.ArgumentParser()
     parser.add_argument("file")
     parser.add_argument("--tls", nargs=2)
@@ -98,34 +75,20 @@ def main():
     parser.add_argument("--drop-at", type=int, default=0)
     parser.add_argument("--silent", action="store_true")
     options = parser.parse_args()
-
     if options.silent:
-        listener = socket.socket()
-        listener.bind(("127.0.0.1", 0))
-        listener.listen(16)
-        print(listener.getsockname()[1], flush=True)
-        held = []
-        while True:
-            ready = select.select([listener, sys.stdin], [], [])[0]
-            if sys.stdin in ready and not sys.stdin.read(1):
-                return
-            if listener in ready:
-                held.append(listener.accept()[0])
-
+        return serve_silently()
+    logging.getLogger("mail.log").setLevel(logging.ERROR)
     settings = {}
     if options.tls:
         context = ssl.create_default_context(ssl.Purpose.CLIENT_AUTH)
         context.load_cert_chain(*options.tls)
         settings.update(tls_context=context, require_starttls=True)
     if options.login:
-        user, password = (value.encode() for value in options.login)
-
-        def authenticate(server, session, envelope, mechanism, data):
-            ok = isinstance(data, LoginPassword) and (data.login, data.password) == (user, password)
-            return AuthResult(success=ok, handled=False)
-
-        settings.update(authenticator=authenticate, auth_required=True)
-    port = free_port()
+        login = LoginPassword(*(value.encode() for value in options.login))
+        settings.update(auth_required=True, authenticator=lambda server, session, envelope,
+                        mechanism, data: AuthResult(success=data == login, handled=False))
+    with socket.create_server(("127.0.0.1", 0)) as probe:
+        port = probe.getsockname()[1]
     controller = Controller(Handler(options), hostname="127.0.0.1", port=port, **settings)
     controller.start()
     print(port, flush=True)
