@@ -5,9 +5,6 @@
 
 #include <QFileInfo>
 
-ConsoleDialogs::ConsoleDialogs(QTextStream& err, QString subject)
-    : err_(err), subject_(std::move(subject)) {}
-
 MsgAnswer ConsoleDialogs::messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) {
     err_ << "desko40-cli: " << subject_ << ": " << text << '\n';
     return buttons == MsgButtons::YesNo || buttons == MsgButtons::YesNoCancel ? MsgAnswer::Yes

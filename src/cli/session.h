@@ -10,10 +10,13 @@
 
 #include <optional>
 
+// What the tool's commands share.
+
 // The tool's message boxes are lines on standard error; a line has no width to keep.
 class ConsoleDialogs final : public Dialogs {
 public:
-    ConsoleDialogs(QTextStream& err, QString subject);
+    explicit ConsoleDialogs(QTextStream& err, QString subject)
+        : err_(err), subject_(std::move(subject)) {}
     // Every question is answered Yes: the command line said what to do.
     MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) override;
     double textWidth(const QString&) const override { return 0.0; }
@@ -40,7 +43,8 @@ struct Session {
     Context ctx;
 };
 
-// Tells that a file is refused: one line naming it. Status 1.
+// Tells on err that the file failed as `what` says; the exit status of a failed command.
 int fail(QTextStream& err, const QString& path, const QString& what);
 
+// Whether the path names a file the tool can read.
 bool readable(const QString& path);
