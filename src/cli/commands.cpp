@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/exportverb.h"
 #include "cli/printverb.h"
 #include "cli/session.h"
 #include "core/model/calendar.h"
@@ -27,7 +28,8 @@ const QString kUsage = QStringLiteral(
     "       desko40-cli generate IN OUT --engine smartrandom|shuffled|horizontal|mixed\n"
     "                   [--seed S] [--base B] [--working]\n"
     "       desko40-cli print IN --report calendar|grid|tearsheet|shifts|constraints --pdf OUT\n"
-    "                   [--trace FILE]\n");
+    "                   [--trace FILE]\n"
+    "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR]\n");
 
 int usage(QTextStream& err) {
     err << kUsage;
@@ -233,6 +235,10 @@ int runCommand(const QStringList& args, QTextStream& out, QTextStream& err, cons
     }
     if (command == QStringLiteral("print")) {
         const std::optional<int> status = printVerb(args, err, launch);
+        return status ? *status : usage(err);
+    }
+    if (command == QStringLiteral("export")) {
+        const std::optional<int> status = exportSchedule(args, err, launch);
         return status ? *status : usage(err);
     }
     return usage(err);

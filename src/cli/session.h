@@ -8,6 +8,8 @@
 
 #include <QTextStream>
 
+#include <optional>
+
 // What the tool's commands share.
 
 // The tool's message boxes are lines on standard error; a line has no width to keep.
@@ -18,6 +20,11 @@ public:
     // Every question is answered Yes: the command line said what to do.
     MsgAnswer messageBox(const QString& text, MsgIcon, MsgButtons buttons, int) override;
     double textWidth(const QString&) const override { return 0.0; }
+    // Every save dialog is answered with the file the command line named; without one, it
+    // is cancelled.
+    std::optional<QString> saveFileDialog(const FileDialog&) override { return savedFile; }
+
+    std::optional<QString> savedFile;
 
 private:
     QTextStream& err_;

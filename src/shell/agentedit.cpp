@@ -99,8 +99,9 @@ void add(Workspace& ws, Context& ctx, const AgentEntry& entry, AgentEditResult& 
 
 }  // namespace
 
-QString lookUpAddress(const AgentEntry& entry) {
-    return modResolveName(entry.email.isEmpty() ? fullName(entry.first, entry.last) : entry.email);
+QString lookUpAddress(const Workspace& ws, Context& ctx, const AgentEntry& entry) {
+    return modResolveName(ws, ctx,
+                          entry.email.isEmpty() ? fullName(entry.first, entry.last) : entry.email);
 }
 
 AgentEditResult commitAgentEdit(Workspace& ws, Context& ctx, const AgentEntry& entry) {
@@ -108,7 +109,7 @@ AgentEditResult commitAgentEdit(Workspace& ws, Context& ctx, const AgentEntry& e
     AgentEditResult result;
     result.entry = entry;
     if (!entry.emailResolved && !entry.email.isEmpty()) {
-        if (const QString address = modResolveName(entry.email); !address.isEmpty()) {
+        if (const QString address = modResolveName(ws, ctx, entry.email); !address.isEmpty()) {
             result.entry.email = address;
             result.entry.emailResolved = true;
         }

@@ -31,9 +31,9 @@ struct AgentEditResult {
     int insertedItem = -1;
 };
 
-// The address the mail system gives for the entry's address, or for its full name when the
+// The address the address book gives for the entry's address, or for its full name when the
 // address is empty; the empty text when there is none.
-QString lookUpAddress(const AgentEntry& entry);
+QString lookUpAddress(const Workspace& ws, Context& ctx, const AgentEntry& entry);
 
 // The frame's OK, adding (gAgentEditMode 0) or changing the agent at list index
 // gAgentEditIndex (mode 1). Every OK counts as a change, also one that is refused. A

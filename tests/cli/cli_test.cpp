@@ -72,6 +72,10 @@ TEST_F(Cli, AnswersAndUsage) {
         {texts({"generate", "in.dko", "out.dko", "--engine", "mixed", "--seed", "16777216"}), 2,
          ""},
         {texts({"generate", "in.dko", "out.dko", "--engine", "mixed", "--fast"}), 2, ""},
+        {texts({"export"}), 2, ""},
+        {texts({"export", "in.dko", "--csv"}), 2, ""},
+        {texts({"export", "in.dko", "--email", "more.dko"}), 2, ""},
+        {texts({"export", "in.dko", "--email"}), 1, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.args.join(QLatin1Char(' ')).toStdString());

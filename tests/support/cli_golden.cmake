@@ -2,6 +2,8 @@
 # own, and compares the file it writes with EXPECTED byte for byte.
 #   cmake -DCLI=<tool> -DINPUT=<file> -DEXPECTED=<file> -DWORK=<folder>
 #         -DCOMMAND="resave;IN;OUT" (IN and OUT stand for the two files) -P cli_golden.cmake
+# With -DERRORS=<file>, what the tool says on standard error is compared with that file too,
+# the folder's name standing as WORK; -DMAILCONFIG=<file> gives the tool a mail account.
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${WORK}")
@@ -11,8 +13,10 @@ file(COPY_FILE "${INPUT}" "${WORK}/in.dko")
 
 list(TRANSFORM COMMAND REPLACE "^IN$" "${WORK}/in.dko")
 list(TRANSFORM COMMAND REPLACE "^OUT$" "${WORK}/out.dko")
+list(TRANSFORM COMMAND REPLACE "^WORK/" "${WORK}/")
 execute_process(
-  COMMAND "${CMAKE_COMMAND}" -E env "DESKO_HOME=${WORK}/home" "${CLI}" ${COMMAND}
+  COMMAND "${CMAKE_COMMAND}" -E env "DESKO_HOME=${WORK}/home" "DESKO_MAIL_CONFIG=${MAILCONFIG}"
+          "${CLI}" ${COMMAND}
   RESULT_VARIABLE status
   ERROR_VARIABLE errors)
 if(NOT status EQUAL 0)
@@ -23,6 +27,14 @@ execute_process(
   RESULT_VARIABLE differ)
 if(NOT differ EQUAL 0)
   message(FATAL_ERROR "${WORK}/out.dko differs from ${EXPECTED}")
+endif()
+if(ERRORS)
+  string(REPLACE "${WORK}" "WORK" errors "${errors}")
+  file(READ "${ERRORS}" expectedErrors)
+  if(NOT errors STREQUAL expectedErrors)
+    file(WRITE "${WORK}/errors.txt" "${errors}")
+    message(FATAL_ERROR "${WORK}/errors.txt differs from ${ERRORS}")
+  endif()
 endif()
 file(GLOB left "${WORK}/home/*")
 if(left)

@@ -69,17 +69,14 @@ std::optional<QString> ScriptedDialogs::saveFileDialog(const FileDialog& request
 namespace {
 
 // The next of the scripted answers, nothing when they have run out.
-std::optional<QString> next(std::deque<std::optional<QString>>& answers) {
+template <typename T>
+std::optional<T> next(std::deque<std::optional<T>>& answers) {
     if (answers.empty()) {
         return std::nullopt;
     }
-    const bool given = answers.front().has_value();
-    const QString text = answers.front().value_or(QString());
+    const std::optional<T> answer = answers.front();
     answers.pop_front();
-    if (!given) {
-        return std::nullopt;
-    }
-    return text;
+    return answer;
 }
 
 }  // namespace
@@ -92,6 +89,11 @@ std::optional<QString> ScriptedDialogs::fileDialog(FileKind kind, const FileDial
 std::optional<QString> ScriptedDialogs::inputBox(const QString& prompt, const QString& proposal) {
     inputsShown.emplace_back(prompt, proposal);
     return next(inputAnswers);
+}
+
+std::optional<int> ScriptedDialogs::chooseItem(const QString& prompt, const QStringList& items) {
+    choicesShown.emplace_back(prompt, items);
+    return next(choiceAnswers);
 }
 
 QStringList ScriptedDialogs::texts() const {

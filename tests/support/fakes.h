@@ -69,6 +69,10 @@ public:
     // prompts and proposals shown, in turn.
     std::deque<std::optional<QString>> inputAnswers;
     std::vector<std::pair<QString, QString>> inputsShown;
+    // The choosers' answers in turn, an item's index or nothing for Cancel; when they run
+    // out, Cancel. The prompts and items shown, in turn.
+    std::deque<std::optional<int>> choiceAnswers;
+    std::vector<std::pair<QString, QStringList>> choicesShown;
     // Runs while a box is up, so a test can see the state the user sees it in.
     std::function<void()> whileShown;
 
@@ -78,6 +82,7 @@ public:
     std::optional<QString> openFileDialog(const FileDialog& request) override;
     std::optional<QString> saveFileDialog(const FileDialog& request) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& proposal) override;
+    std::optional<int> chooseItem(const QString& prompt, const QStringList& items) override;
 
     // The texts of the boxes shown, each as the box showed it, broken to its width.
     QStringList texts() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -40,6 +41,13 @@ public:
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& proposal) {
         Q_UNUSED(prompt);
         Q_UNUSED(proposal);
+        return std::nullopt;
+    }
+    // A list to choose one item from, under the prompt: the index of the item chosen, or
+    // nothing when the user cancelled.
+    virtual std::optional<int> chooseItem(const QString& prompt, const QStringList& items) {
+        Q_UNUSED(prompt);
+        Q_UNUSED(items);
         return std::nullopt;
     }
 };

@@ -2,6 +2,7 @@
 
 #include "core/services/textfile.h"
 
+#include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -55,6 +56,8 @@ void apply(MailAccount& account, const QString& keyword, const QString& argument
         account.trustFile = argument;
     } else if (keyword == QStringLiteral("tls_certcheck")) {
         account.certCheck = switchOf(argument);
+    } else if (keyword == QStringLiteral("timeout")) {
+        account.timeout = std::max(0, argument.toInt());
     }
 }
 
@@ -114,7 +117,9 @@ MailConfig parseMailConfig(const QString& text) {
     return config;
 }
 
-std::optional<MailAccount> defaultMailAccount(const QString& configPath) {
+namespace {
+
+std::optional<MailConfig> readMailConfig(const QString& configPath) {
     if (configPath.isEmpty()) {
         return std::nullopt;
     }
@@ -122,19 +127,61 @@ std::optional<MailAccount> defaultMailAccount(const QString& configPath) {
     if (!text) {
         return std::nullopt;
     }
-    const MailConfig config = parseMailConfig(*text);
-    if (config.accounts.empty()) {
-        return std::nullopt;
-    }
-    const MailAccount* account = accountNamed(config.accounts, config.defaultName);
-    if (account == nullptr) {
-        account = accountNamed(config.accounts, QStringLiteral("default"));
-    }
-    if (account == nullptr) {
-        account = &config.accounts.front();
-    }
-    if (account->host.isEmpty()) {
+    return parseMailConfig(*text);
+}
+
+std::optional<MailAccount> usable(const MailAccount* account) {
+    if (account == nullptr || account->host.isEmpty()) {
         return std::nullopt;
     }
     return *account;
+}
+
+// A password command gets this long, time enough to ask for a key's passphrase.
+constexpr int kPasswordEvalMs = 60000;
+
+}  // namespace
+
+std::optional<MailAccount> defaultMailAccount(const QString& configPath) {
+    const std::optional<MailConfig> config = readMailConfig(configPath);
+    if (!config || config->accounts.empty()) {
+        return std::nullopt;
+    }
+    const MailAccount* account = accountNamed(config->accounts, config->defaultName);
+    if (account == nullptr) {
+        account = accountNamed(config->accounts, QStringLiteral("default"));
+    }
+    return usable(account != nullptr ? account : &config->accounts.front());
+}
+
+std::optional<MailAccount> mailAccountNamed(const QString& configPath, const QString& name) {
+    const std::optional<MailConfig> config = readMailConfig(configPath);
+    return config ? usable(accountNamed(config->accounts, name)) : std::nullopt;
+}
+
+std::optional<QString> accountPassword(const MailAccount& account) {
+    if (!account.password.isEmpty() || account.passwordEval.isEmpty()) {
+        return account.password;
+    }
+    QProcess command;
+    command.setStandardErrorFile(QProcess::nullDevice());
+    command.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), account.passwordEval});
+    command.closeWriteChannel();
+    if (!command.waitForFinished(kPasswordEvalMs)) {
+        command.kill();
+        command.waitForFinished();
+        return std::nullopt;
+    }
+    if (command.exitStatus() != QProcess::NormalExit || command.exitCode() != 0) {
+        return std::nullopt;
+    }
+    const QString output = QString::fromUtf8(command.readAllStandardOutput());
+    QString line = output.section(QLatin1Char('\n'), 0, 0);
+    if (line.endsWith(QLatin1Char('\r'))) {
+        line.chop(1);
+    }
+    if (line.isEmpty()) {
+        return std::nullopt;
+    }
+    return line;
 }

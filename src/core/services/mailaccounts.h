@@ -20,6 +20,7 @@ struct MailAccount {
     QString from;
     QString trustFile;  // certificates to trust instead of the system's
     bool certCheck = true;
+    int timeout = 0;  // seconds a server may stay silent; 0: the program's own limit
 
     int effectivePort() const { return port > 0 ? port : (tls && !starttls ? 465 : 25); }
 };
@@ -39,3 +40,11 @@ MailConfig parseMailConfig(const QString& text);
 // The default account of the configuration file: the one "account default" names, else the
 // first; nothing when the file is missing or unreadable, or when that account has no host.
 std::optional<MailAccount> defaultMailAccount(const QString& configPath);
+
+// The account of that name in the configuration file, if it has a host.
+std::optional<MailAccount> mailAccountNamed(const QString& configPath, const QString& name);
+
+// The account's password: the one written in the file, else the first line that its
+// passwordeval command prints; nothing when that command fails or prints nothing. An account
+// with neither has the empty password.
+std::optional<QString> accountPassword(const MailAccount& account);

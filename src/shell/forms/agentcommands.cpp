@@ -115,11 +115,14 @@ void frmMain::cmdCancel_Click() {
 }
 
 void frmMain::cmdResolveName_Click() {
+    showHourglass();
     const QString address =
-        lookUpAddress({txtFirstName->text(), txtLastName->text(), txtEmail->text()});
+        lookUpAddress(ws_, ctx_, {txtFirstName->text(), txtLastName->text(), txtEmail->text()});
+    showNormalPointer();
     if (!address.isEmpty()) {
         txtEmail->setText(address);
         setUnderlined(txtEmail, true);
+        doEvents();
     }
 }
 

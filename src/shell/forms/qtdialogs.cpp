@@ -2,12 +2,17 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFontMetricsF>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
 #include <QWidget>
 
 #include <algorithm>
@@ -191,4 +196,32 @@ std::optional<QString> QtDialogs::inputBox(const QString& prompt, const QString&
         return std::nullopt;
     }
     return box.textValue();
+}
+
+// The list under its prompt, the first item chosen; a double click chooses and closes.
+std::optional<int> QtDialogs::chooseItem(const QString& prompt, const QStringList& items) {
+    const NormalPointerWhileAsking pointer;
+    QDialog box(parent_);
+    auto* label = new QLabel(prompt, &box);
+    label->setWordWrap(true);
+    auto* list = new QListWidget(&box);
+    list->setObjectName(QStringLiteral("lstChoices"));
+    list->setAccessibleName(prompt);
+    list->addItems(items);
+    list->setCurrentRow(0);
+    // Wide enough for the longest item, so that no address is cut.
+    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() +
+                          list->verticalScrollBar()->sizeHint().width());
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &box);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &box, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &box, &QDialog::reject);
+    QObject::connect(list, &QListWidget::itemDoubleClicked, &box, &QDialog::accept);
+    auto* layout = new QVBoxLayout(&box);
+    layout->addWidget(label);
+    layout->addWidget(list);
+    layout->addWidget(buttons);
+    if (box.exec() != QDialog::Accepted || list->currentRow() < 0) {
+        return std::nullopt;
+    }
+    return list->currentRow();
 }

@@ -15,6 +15,7 @@ public:
     std::optional<QString> openFileDialog(const FileDialog& request) override;
     std::optional<QString> saveFileDialog(const FileDialog& request) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& proposal) override;
+    std::optional<int> chooseItem(const QString& prompt, const QStringList& items) override;
 
 private:
     QWidget* parent_;
