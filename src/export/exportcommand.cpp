@@ -2,7 +2,10 @@
 
 #include "core/model/leaveempty.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
 #include "core/services/log.h"
+#include "core/services/printers.h"
+#include "core/services/surface.h"
 #include "export/calendarcreator.h"
 #include "export/emailexport.h"
 #include "export/exportview.h"
@@ -16,6 +19,9 @@ void cmdExport(Workspace& ws, Context& ctx, ExportView& view, MailSession& sessi
     }
     modStatus(ws, ctx, QStringLiteral("Exporting the schedule for ") + ws.currentMonthName());
     view.beginExport(QStringLiteral("Exporting the schedule . . ."));
+    // The printer's orientation as found is put back at the end, as after printing.
+    Surface* printer = ctx.printers != nullptr ? &ctx.printers->printer() : nullptr;
+    const int orientation = printer != nullptr ? printer->Orientation() : 0;
     blankLeaveEmptyCells(ws);
     view.doEvents();
     // The boxes are read again: the pre-flight may have unticked some.
@@ -30,4 +36,7 @@ void cmdExport(Workspace& ws, Context& ctx, ExportView& view, MailSession& sessi
     }
     restoreLeaveEmptyCells(ws);
     view.endExport();
+    if (printer != nullptr) {
+        modSetOrientation(*printer, orientation);
+    }
 }

@@ -8,7 +8,6 @@
 #include "printing/printview.h"
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -23,13 +22,6 @@ void printCentred(Surface& printer, const QString& text, double y) {
 }
 
 }  // namespace
-
-void modSetOrientation(Surface& printer, int value) {
-    if (value >= std::numeric_limits<qint16>::min() &&
-        value <= std::numeric_limits<qint16>::max()) {
-        printer.setOrientation(value);
-    }
-}
 
 bool stepFontSize(Surface& printer, double step) {
     const double before = printer.FontSize();

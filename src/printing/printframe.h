@@ -12,10 +12,6 @@ struct Workspace;
 // What the reports share: the page's orientation, font sizes that step, the fitted title
 // and notes of the two landscape reports, and the copies around a report.
 
-// Sets the printer's orientation: 1 portrait, 2 landscape. A value beyond 16 bits is passed
-// over.
-void modSetOrientation(Surface& printer, int value);
-
 // Raises or lowers the font size by step; false when the printer kept the size it had, so
 // that a loop over the size always ends.
 bool stepFontSize(Surface& printer, double step);

@@ -65,3 +65,7 @@ public:
     virtual QString Fonts(int index) const = 0;
     virtual QString DeviceName() const = 0;
 };
+
+// Sets the printer's orientation: 1 portrait, 2 landscape. A value beyond 16 bits is passed
+// over. Every command that may print puts back the orientation it found.
+void modSetOrientation(Surface& printer, int value);

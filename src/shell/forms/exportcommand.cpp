@@ -16,7 +16,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
-#include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -47,9 +47,7 @@ public:
         main_.show();
     }
     void showProgress(double share) override {
-        const int full = main_.picStatus->width() - 2;
-        const int filled = static_cast<int>(full * std::clamp(share, 0.0, 1.0));
-        main_.shpStatus->setGeometry(1, 1, filled, main_.picStatus->height() - 2);
+        main_.showProgress(share);
         doEvents();
     }
     void hideProgressBar() override {

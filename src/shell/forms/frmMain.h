@@ -97,6 +97,8 @@ public:
     void mnuHAbout_Click();
 
     frmWholeCalendar* review() const { return review_; }
+    // The progress bar filled by the share of the work done; a share beyond the whole fills it.
+    void showProgress(double done);
 
     // The controls, as the other forms and commands reach them.
     QGroupBox* fraEditAgent;
@@ -192,7 +194,6 @@ private:
     void showToFront();
     void showPrintAndEngine();
     void showStatus(const QString& text);
-    void showProgress(double done);
     void showEditFrame(bool editing);
     void clearEditFrame();
     void openViewForm(ViewForm form);

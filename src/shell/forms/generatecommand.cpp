@@ -15,6 +15,8 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include <algorithm>
+
 void frmMain::cmdGenerate_Click() {
     if (!prepareGenerate(ws_, ctx_, cmbGenerate->currentIndex())) {
         return;
@@ -61,5 +63,6 @@ void frmMain::cmdGenerate_Click() {
 // The bar fills the sunken box from the left by the share of positions done.
 void frmMain::showProgress(double done) {
     const int full = picStatus->width() - 2;
-    shpStatus->setGeometry(1, 1, static_cast<int>(full * done), picStatus->height() - 2);
+    shpStatus->setGeometry(1, 1, static_cast<int>(full * std::clamp(done, 0.0, 1.0)),
+                           picStatus->height() - 2);
 }
