@@ -12,6 +12,8 @@
 
 #include <QFile>
 
+#include <memory>
+
 namespace {
 
 // The reports by the names the tool takes; the first three are the print boxes 1 to 3.
@@ -55,7 +57,8 @@ public:
     ToolPrinter(PdfTarget& target, QTextStream* trace)
         : target_(target), surface_(target, printerFonts()) {
         if (trace != nullptr) {
-            tracing_.emplace(surface_, [trace](const QString& line) { *trace << line << '\n'; });
+            tracing_ = std::make_unique<TracingSurface>(
+                surface_, [trace](const QString& line) { *trace << line << '\n'; });
         }
     }
 
@@ -69,7 +72,7 @@ public:
 private:
     PdfTarget& target_;
     QtSurface surface_;
-    std::optional<TracingSurface> tracing_;
+    std::unique_ptr<TracingSurface> tracing_;
 };
 
 void printReport(Workspace& ws, Context& ctx, int report) {
