@@ -85,10 +85,7 @@ std::optional<int> exportSchedule(const QStringList& args, QTextStream& err, con
         return 1;
     }
     // The mail account as the program finds it at its start.
-    if (const std::optional<MailAccount> account = defaultMailAccount(launch.mailConfig)) {
-        session.ctx.env.gMapiProfile = account->name;
-        session.ctx.env.gOutlookInstalled = !account->from.isEmpty();
-    }
+    readMailFacts(session.ctx.env, launch.mailConfig);
     Workspace& ws = session.ws;
     ws.chkPrint[kEmailBox] = options->email ? 1 : 0;
     ws.chkPrint[kOutlookBox] = options->calendar ? 1 : 0;

@@ -43,12 +43,7 @@ void modProbeEnvironment(const Workspace& ws, Context& ctx) {
         askMachine(*ctx.machine, ws.gAppPath, ctx.env);
     }
     ctx.env.gAccountRightsOk = modCheckRights(ws, ctx);
-    // The default mail account is the profile the mail goes out by; meeting requests need
-    // its sender's address.
-    if (const std::optional<MailAccount> account = defaultMailAccount(ctx.launch.mailConfig)) {
-        ctx.env.gMapiProfile = account->name;
-        ctx.env.gOutlookInstalled = !account->from.isEmpty();
-    }
+    readMailFacts(ctx.env, ctx.launch.mailConfig);
 }
 
 long long diskMegabytes(qint64 clusters, qint64 bytesPerCluster) {

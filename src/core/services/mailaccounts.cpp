@@ -185,3 +185,10 @@ std::optional<QString> accountPassword(const MailAccount& account) {
     }
     return line;
 }
+
+void readMailFacts(Environment& env, const QString& configPath) {
+    if (const std::optional<MailAccount> account = defaultMailAccount(configPath)) {
+        env.gMapiProfile = account->name;
+        env.gOutlookInstalled = !account->from.isEmpty();
+    }
+}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/services/environment.h"
+
 #include <QString>
 
 #include <optional>
@@ -40,6 +42,11 @@ MailConfig parseMailConfig(const QString& text);
 // The default account of the configuration file: the one "account default" names, else the
 // first; nothing when the file is missing or unreadable, or when that account has no host.
 std::optional<MailAccount> defaultMailAccount(const QString& configPath);
+
+// What the machine's facts say of mail: the default account is the profile the mail goes out
+// by, gMapiProfile; meeting requests need its sender's address, gOutlookInstalled. Without a
+// usable account both stay empty and false.
+void readMailFacts(Environment& env, const QString& configPath);
 
 // The account of that name in the configuration file, if it has a host.
 std::optional<MailAccount> mailAccountNamed(const QString& configPath, const QString& name);
