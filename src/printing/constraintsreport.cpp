@@ -79,8 +79,7 @@ bool printConstraints(const Workspace& ws, const Context& ctx, Surface& printer,
     }
 
     const double bottom = printer.CurrentY();
-    const QString title =
-        ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear);
+    const QString title = ws.currentMonthAndYear();
     printer.Box(0.8, 1.0, widest + 1.2, bottom - printer.TextHeight(title));
     // The title grows to the lists' width, or to 36 points if it reaches that size on its
     // way; from above 36 only the width stops it.

@@ -48,8 +48,7 @@ double printColumn(const Workspace& ws, Surface& printer, int w, double top, dou
 // The title grows from 9 points while it is narrower than the box; the first size too wide
 // stays, so the title may reach one step past it.
 void printTitle(const Workspace& ws, Surface& printer, double rightEdge) {
-    const QString title = ws.currentMonthName() + QLatin1Char(' ') +
-                          QString::number(ws.gCurrentYear) + QStringLiteral(" Desko Time");
+    const QString title = ws.currentMonthAndYear() + QStringLiteral(" Desko Time");
     printer.setFontBold(true);
     printer.setFontSize(8);
     while (printer.FontSize() <= 21 && stepFontSize(printer, 1) &&

@@ -43,8 +43,7 @@ void printTearsheetReport(Workspace& ws, Context& ctx, PrintView& view, Surface&
 }  // namespace
 
 QString documentTitle(const Workspace& ws, const QString& report) {
-    return ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear) +
-           QLatin1Char(' ') + report;
+    return ws.currentMonthAndYear() + QLatin1Char(' ') + report;
 }
 
 void printSchedule(Workspace& ws, Context& ctx, PrintView& view) {

@@ -36,9 +36,7 @@ bool changeMonth(Workspace& ws, Context& ctx, int barValue) {
             ws.gCurrentYear += 1;
         }
     }
-    modStatus(ws, ctx,
-              QStringLiteral("Changing the present month to ") + ws.currentMonthName() +
-                  QLatin1Char(' ') + QString::number(ws.gCurrentYear));
+    modStatus(ws, ctx, QStringLiteral("Changing the present month to ") + ws.currentMonthAndYear());
     modSaveWorkspace(ws, ctx, QString());
     modSetupMonth(ws);
     return true;

@@ -91,8 +91,7 @@ void frmHolidays::Form_Load() {
     // A month of five weeks leaves out the sixth row.
     grid_->setRowMinimumHeight(kFirstCellRow + 5,
                                ws_.gCalendarSixRows == 0 ? 0 : kCellSize.height());
-    labMonth->setText(ws_.currentMonthName() + QLatin1Char(' ') +
-                      QString::number(ws_.gCurrentYear));
+    labMonth->setText(ws_.currentMonthAndYear());
     fraMonth->setTitle(dayPickerCaption(ws_));
     fraMonth->setAccessibleName(fraMonth->title());
     const bool vacations = ws_.gDayPickerMode == kPickVacations;

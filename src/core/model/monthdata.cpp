@@ -3,8 +3,7 @@
 #include "core/model/workspace.h"
 
 QString monthTitle(const Workspace& ws) {
-    return ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear) +
-           QStringLiteral(" Desko Schedule");
+    return ws.currentMonthAndYear() + QStringLiteral(" Desko Schedule");
 }
 
 void modDefaultTexts(Workspace& ws) {
@@ -15,8 +14,7 @@ void modDefaultTexts(Workspace& ws) {
     ws.gOutlookSubject = title;
     ws.gEmailBody =
         QStringLiteral("You have been assigned the following shifts for the month of ") +
-        ws.currentMonthName() + QLatin1Char(' ') + QString::number(ws.gCurrentYear) +
-        QLatin1Char(':');
+        ws.currentMonthAndYear() + QLatin1Char(':');
 }
 
 void modFillDayEditorCombos(Workspace& ws) {

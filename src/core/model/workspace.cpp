@@ -8,6 +8,10 @@ QString Workspace::currentMonthName() const {
     return gCurrentMonth >= 1 && gCurrentMonth <= 12 ? gMonthNames[gCurrentMonth] : QString();
 }
 
+QString Workspace::currentMonthAndYear() const {
+    return currentMonthName() + QLatin1Char(' ') + QString::number(gCurrentYear);
+}
+
 QString Workspace::agentName(int agent) const {
     return hasAgent(agent) ? gAgentFirst[agent] + QLatin1Char(' ') + gAgentLast[agent]
                            : QStringLiteral(" ");

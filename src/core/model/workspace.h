@@ -153,6 +153,8 @@ struct Workspace {
     // Days and name of the current month; 0 and empty while the month is outside 1..12.
     int currentMonthDays() const;
     QString currentMonthName() const;
+    // The current month's name and its year, "January 2027".
+    QString currentMonthAndYear() const;
     // Whether the number is one of the agents 1..gAgentCount.
     bool hasAgent(int agent) const { return agent >= 1 && agent <= gAgentCount; }
     // The agent's first and last name with a blank between; for no agent, the blank alone.

@@ -29,7 +29,7 @@ void frmMain::mnuHOpenDump_Click() {
         return;
     }
     modFillAgentList();
-    labDate->setText(ws_.currentMonthName() + QLatin1Char(' ') + QString::number(ws_.gCurrentYear));
+    labDate->setText(ws_.currentMonthAndYear());
 }
 
 void frmMain::mnuHAbout_Click() {

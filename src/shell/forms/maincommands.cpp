@@ -131,7 +131,7 @@ void frmMain::vscDate_Change() {
     if (!changeMonth(ws_, ctx_, vscDate->value())) {
         return;
     }
-    labDate->setText(ws_.currentMonthName() + QLatin1Char(' ') + QString::number(ws_.gCurrentYear));
+    labDate->setText(ws_.currentMonthAndYear());
     modLeaveBusyState();
     lstAgents->setFocus();
 }

@@ -195,7 +195,7 @@ void frmMain::modUpdateCmbViewEdit() {
 void frmMain::Form_Activate() {
     modLeaveBusyState();
     modFillAgentList();
-    labDate->setText(ws_.currentMonthName() + QLatin1Char(' ') + QString::number(ws_.gCurrentYear));
+    labDate->setText(ws_.currentMonthAndYear());
     if (ws_.gFocusAddButton == 1) {
         makeDefaultButton(cmdAdd);
     }
