@@ -11,20 +11,20 @@
 void exportToEmail(Workspace& ws, Context& ctx, ExportView& view, MailSession& session) {
     modStatus(ws, ctx, QStringLiteral("Exporting the schedule to e-mail"));
     view.showStatus(QStringLiteral("Exporting the schedule to e-mail . . ."));
-    QString gExportResults;
+    ws.gExportResults.clear();
     for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
         const QString body = agentMailBody(ws, agent);
         if (!ws.gAgentEmail[agent].isEmpty()) {
-            modSendMail(ws, ctx, session, gExportResults,
+            modSendMail(ws, ctx, session, ws.gExportResults,
                         {ws.gAgentEmail[agent], ws.gEmailSubject, body, {}});
             continue;
         }
         const QString failure = QStringLiteral("Failed to send e-mail to ") + ws.agentName(agent) +
                                 QStringLiteral("  (No e-mail address entered)");
-        addResult(gExportResults, failure);
+        addResult(ws.gExportResults, failure);
         modStatus(ws, ctx, failure);
     }
-    offerResults(ctx, gExportResults,
+    offerResults(ctx, ws.gExportResults,
                  QStringLiteral("At least one agent failed to receive the e-mail message.  Would "
                                 "you like to see the results?"));
 }

@@ -19,6 +19,7 @@ void cmdExport(Workspace& ws, Context& ctx, ExportView& view, MailSession& sessi
     }
     modStatus(ws, ctx, QStringLiteral("Exporting the schedule for ") + ws.currentMonthName());
     view.beginExport(QStringLiteral("Exporting the schedule . . ."));
+    ws.gExportResults.clear();
     // The printer's orientation as found is put back at the end, as after printing.
     Surface* printer = ctx.printers != nullptr ? &ctx.printers->printer() : nullptr;
     const int orientation = printer != nullptr ? printer->Orientation() : 0;

@@ -61,7 +61,6 @@ private:
     MailSession& session_;
     WeeklyShiftTimes times_;
     MeetingRequestBuilder requests_;
-    QString gExportResults;
     int done_ = 1;
     int total_ = 0;
 };
@@ -69,6 +68,7 @@ private:
 void OutlookChannel::run() {
     modStatus(ws_, ctx_, QStringLiteral("Exporting the schedule to Microsoft Outlook"));
     view_.showProgressBar(QStringLiteral("Exporting the schedule to Microsoft Outlook . . ."));
+    ws_.gExportResults.clear();
     total_ = positionsOfMonth(ws_);
     modMapiOpen(ws_, ctx_, session_);
     // The probe appointment readies the time zone's tables before the real work; it is
@@ -93,7 +93,7 @@ void OutlookChannel::run() {
             }
         }
     }
-    offerResults(ctx_, gExportResults,
+    offerResults(ctx_, ws_.gExportResults,
                  QStringLiteral("At least one agent failed to receive an Outlook appointment.  "
                                 "Would you like to see the results?"));
     view_.hideProgressBar();
@@ -103,7 +103,7 @@ void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift)
     const ShiftTimes& times = times_[weekday][shift];
     if (!times.ok) {
         const QString line = uninterpretedShiftLine(ws_, weekday, shift);
-        if (addResultOnce(gExportResults, line, line)) {
+        if (addResultOnce(ws_.gExportResults, line, line)) {
             modStatus(ws_, ctx_, line);
         }
         return;
@@ -113,7 +113,7 @@ void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift)
         return;
     }
     const QString name = ws_.agentName(agent);
-    if (addResultOnce(gExportResults, name,
+    if (addResultOnce(ws_.gExportResults, name,
                       QStringLiteral("Failed to create an Outlook appointment for ") + name +
                           QStringLiteral("  (No recipient name entered)"))) {
         modStatus(ws_, ctx_,
@@ -130,7 +130,7 @@ void OutlookChannel::send(int agent, const QDate& date, int shift, const ShiftTi
     const std::optional<SendFailure> failure =
         session_.send(ctx_.clock.now(), {address, ws_.gOutlookSubject, ws_.gOutlookBody, request});
     // Only an agent's first failure is told: the later ones are the same story.
-    if (failure && addResultOnce(gExportResults, address,
+    if (failure && addResultOnce(ws_.gExportResults, address,
                                  QStringLiteral("Failed to create an Outlook appointment for ") +
                                      address + failureBracket(*failure))) {
         // The place for the name stays empty in this line, as it always has.
