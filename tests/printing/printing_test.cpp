@@ -28,7 +28,6 @@ public:
     void showPrintStatus(const QString& status) override {
         asked.append(QStringLiteral("status: ") + status);
     }
-    void doEvents() override {}
     void endPrinting() override { asked.append(QStringLiteral("normal")); }
 };
 
@@ -72,6 +71,45 @@ TEST(PrintCommand, LeaveEmptyPrintsAsBlanksAndComesBack) {
                                    "status: Printing the full calendar . . .", "normal"}));
     EXPECT_TRUE(logged(o.ws, QStringLiteral("Printing the schedule for January")));
     EXPECT_EQ(o.printers.calls.last(), QStringLiteral("Orientation = 1"));
+}
+
+// The window closed during one of the command's yields, the first to the sixth: no report
+// and no copy begins after it, the "Leave empty" cell is back when the command returns, for
+// the close to save, and the window's close is taken then.
+TEST(PrintCommand, StopsAtTheYieldDuringWhichTheWindowClosed) {
+    const struct {
+        int closeAt;  // 0: never
+        int documents;
+        const char* lastLine;
+    } cases[] = {
+        {1, 0, "Printing the schedule for January"},
+        {2, 0, "Printing the full calendar"},
+        {3, 1, "Printing the full calendar"},
+        {4, 2, "Printing the full calendar"},
+        {5, 2, "Printing the office grid"},
+        {6, 3, "Printing the office grid"},
+        {0, 4, "Printing the tearsheet"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.closeAt);
+        Office o;
+        o.ws.gCalendarCopies = QStringLiteral("2");
+        o.ws.schedule(4, 1, 0) = leaveEmptyText();
+        int yields = 0;
+        o.s.ctx.events.run = [&] {
+            if (++yields == c.closeAt) {
+                EXPECT_TRUE(o.s.ctx.events.putOffClose());
+            }
+        };
+        EXPECT_EQ(o.s.ctx.events.runCommand([&] { o.print({1, 1, 1}); }), c.closeAt > 0);
+        EXPECT_EQ(yields, c.closeAt > 0 ? c.closeAt : 6);
+        EXPECT_EQ(o.documents(), c.documents);
+        EXPECT_EQ(o.ws.schedule(4, 1, 0), leaveEmptyText());
+        EXPECT_EQ(o.view.asked.last(), QStringLiteral("normal"));
+        const QStringList log = fileText(o.ws.gLogFile).split(QStringLiteral("\r\n"));
+        EXPECT_TRUE(log[log.size() - 2].endsWith(QString::fromUtf8(c.lastLine)));
+        EXPECT_FALSE(o.s.ctx.events.ending());
+    }
 }
 
 // The boxes choose the reports, in a fixed order; copies are repaired, counted and capped.

@@ -4,6 +4,7 @@
 
 #include "core/forms/facewindow.h"
 #include "core/forms/formkit.h"
+#include "core/services/context.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "shell/forms/monthstepper.h"
 
@@ -60,6 +61,8 @@ frmMain::frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString&
     buildMenus();
     connectCommands();
     connectAgentCommands();
+    // The long commands' yields run the window's events.
+    ctx.events.run = [] { doEvents(); };
     review_ = new frmWholeCalendar(ws, ctx, *this, window);
     window.fitFaces();
     load();

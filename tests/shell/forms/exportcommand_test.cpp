@@ -1,10 +1,14 @@
 #include "core/model/leaveempty.h"
 #include "core/model/workspace.h"
+#include "core/services/mailaccounts.h"
 #include "core/services/textfile.h"
+#include "mailserver.h"
 #include "mainwindow.h"
 #include "offices.h"
 
 #include <QDir>
+#include <QRegularExpression>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -83,4 +87,66 @@ TEST(ExportCommand, ResolveButtonFindsTheAddressInTheAddressBook) {
         // Only an address the book gave is underlined.
         EXPECT_EQ(main.txtEmail->font().underline(), main.txtEmail->text().contains(u'@'));
     }
+}
+
+// The window's close box, pressed while the meeting requests go to a server that answers
+// each after a while and refuses the first agent's, stops the export at once: nothing is
+// sent after the close, the results question never comes, the "Leave empty" cell is back
+// before the schedule is saved, and the close's own road follows, its closing line the
+// log's last.
+TEST(ExportCommand, ClosingTheWindowStopsTheExportBeforeTheCloseRoad) {
+    MainWindow w;
+    makeOffice(w.ws, 2027, 1, 4, w.home.path());
+    for (int a = 1; a <= 4; ++a) {
+        w.ws.gAgentEmail[a] = QStringLiteral("agent%1@example.org").arg(a);
+    }
+    dealInTurn(w.ws);
+    w.ws.gShiftText.fill({QString(), QStringLiteral("9am-5pm")});
+    w.ws.schedule(4, 1, 0) = leaveEmptyText();
+    w.ws.gScheduleGenerated = 1;
+    w.ws.gDirty = 1;
+    w.ws.chkPrint = {0, 0, 0, 0, 1, 0};
+    const QString received = w.home.filePath(QStringLiteral("received.jsonl"));
+    MailServer server(received, texts({"--delay", "0.2", "--refuse", "agent1@example.org"}));
+    const QString config = w.home.filePath(QStringLiteral("msmtprc"));
+    writeTextFile(config, QStringLiteral("account office\nhost 127.0.0.1\nport %1\n"
+                                         "from d@example.org\n")
+                              .arg(server.port));
+    w.s.ctx.launch.mailConfig = config;
+    readMailFacts(w.s.ctx.env, config);
+    const QString saved = w.home.filePath(QStringLiteral("saved.dko"));
+    w.s.dialogs.answers = {MsgAnswer::Yes};
+    w.s.dialogs.fileAnswers = {saved};
+    frmMain& main = w.open();
+    QSignalSpy ends(&main, &frmMain::programEnds);
+    const auto sent = [&] { return fileText(received).count(u'\n'); };
+    qsizetype sentAtClose = -1;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [&] {
+        if (sentAtClose < 0 && sent() >= 6) {
+            sentAtClose = sent();
+            w.window->close();
+        }
+    });
+    closer.start(20);
+
+    QTest::mouseClick(w.control<QPushButton>("cmdExport"), Qt::LeftButton);
+    closer.stop();
+
+    EXPECT_GE(sentAtClose, 6);
+    EXPECT_EQ(sent(), sentAtClose);
+    EXPECT_LT(sent(), 22);  // a request for each day the others hold but the empty one
+    EXPECT_EQ(w.ws.schedule(4, 1, 0), leaveEmptyText());
+    EXPECT_TRUE(fileText(saved).contains(QStringLiteral("|Leave empty\r\n")));
+    ASSERT_EQ(w.s.dialogs.shown.size(), 1U);
+    EXPECT_EQ(w.s.dialogs.shown[0].buttons, MsgButtons::YesNoCancel);  // the close's question
+    EXPECT_EQ(ends.count(), 1);
+    const QStringList log = fileText(w.ws.gLogFile).split(QStringLiteral("\r\n"));
+    const auto line = [&](const QString& text) {
+        return log.indexOf(
+            QRegularExpression(QStringLiteral("\\[.{8}\\]     ") + text + QStringLiteral(".*")));
+    };
+    EXPECT_LT(line(QStringLiteral("Exporting the schedule to Microsoft Outlook")),
+              line(QStringLiteral("Unloading the main form")));
+    EXPECT_EQ(line(QStringLiteral("Closing Desko40.log on ")), log.size() - 2);
 }
