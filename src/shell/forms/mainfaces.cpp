@@ -130,7 +130,9 @@ void frmMain::modLeaveBusyState() {
                   true);
     modUpdateCmbViewEdit();
 
-    // Printing and exporting need a generated schedule.
+    // The boxes and the engine list show what the commands will act on, also after a road
+    // that read the working file again. Printing and exporting need a generated schedule.
+    showPrintAndEngine();
     const bool generated = ws_.gScheduleGenerated == 1;
     for (QCheckBox* box : chkPrint) {
         box->setEnabled(generated);

@@ -1,3 +1,4 @@
+#include "constraints/forms/frmHolidays.h"
 #include "core/forms/elidedlabel.h"
 #include "core/model/workspace.h"
 #include "core/services/textfile.h"
@@ -5,6 +6,7 @@
 #include "generation/forms/frmWholeCalendar.h"
 #include "mainwindow.h"
 #include "offices.h"
+#include "persistence/workspacefile.h"
 #include "shell/forms/monthstepper.h"
 #include "shell/forms/programstart.h"
 
@@ -323,6 +325,48 @@ TEST(MainWindowForm, PrintBoxesAndEngineListMirrorTheWorkspace) {
             EXPECT_EQ(m.ws.cmbGenerateListIndex, index) << agents;
         }
         EXPECT_EQ(presses.count(), agents == 0 ? 0 : 4);
+    }
+}
+
+// The print and export boxes and the engine list show what the commands act on after every
+// road that reads the working file again: a configuration dump whose working file asks for
+// E-mail alone and a serial engine, and a Cancel in the holidays, which reads back the file
+// that was saved before a box was ticked.
+TEST(MainWindowForm, TheBoxesShowWhatTheCommandsActOnAfterTheWorkingFileIsRead) {
+    const struct {
+        const char* road;
+        std::array<int, 6> boxes;
+        int engine;
+    } cases[] = {{"dump", {0, 0, 0, 1, 0, 0}, 2}, {"holidays", {1, 1, 1, 0, 0, 0}, 0}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.road);
+        MainWindow w;
+        withAgents(w.ws, 3);
+        w.ws.gScheduleGenerated = 1;
+        w.ws.chkPrint = {1, 1, 1, 0, 0, 0};
+        w.open();
+        modSaveWorkspace(w.ws, w.s.ctx, QString());
+        QTest::mouseClick(w.main->chkPrint[5], Qt::LeftButton, {},
+                          QPoint(8, w.main->chkPrint[5]->height() / 2));
+        if (QString::fromUtf8(c.road) == u"dump") {
+            const QString dump = w.home.filePath(QStringLiteral("office.dmp"));
+            writeTextFile(dump, QStringLiteral("[Agents]\r\n1=Chen|Wei|\r\n[Settings]\r\n"
+                                               "Printer Format=000100\r\nScheduling Engine=2\r\n"
+                                               "\r\n<SNIP>\r\n\r\n"));
+            w.s.dialogs.fileAnswers = {dump};
+            w.main->mnuHOpenDump->setVisible(true);
+            w.main->mnuHOpenDump->trigger();
+        } else {
+            w.main->lstAgents->setCurrentRow(0);
+            QTest::mouseClick(w.main->cmdHolidays, Qt::LeftButton);
+            QTest::mouseClick(w.window->findChild<frmHolidays*>()->cmdCancel, Qt::LeftButton);
+        }
+        EXPECT_EQ(w.ws.chkPrint, c.boxes);
+        for (int i = 0; i < 6; ++i) {
+            EXPECT_EQ(w.main->chkPrint[i]->isChecked(), c.boxes[i] == 1) << i;
+        }
+        EXPECT_EQ(w.main->cmbGenerate->currentIndex(), c.engine);
+        EXPECT_EQ(w.ws.cmbGenerateListIndex, c.engine);
     }
 }
 
