@@ -8,6 +8,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -84,6 +87,58 @@ TEST(QtDialogs, TheBoxShowsTheTextWithTheDefaultButton) {
     EXPECT_EQ(text, QStringLiteral("Delete?"));
     EXPECT_TRUE(title.isEmpty());
     EXPECT_TRUE(noIsDefault);
+}
+
+// A text taller than the screen, such as a list of 200 agents, scrolls inside its box, and
+// the box with its buttons stays on the screen's available area, with its default button and
+// Escape as ever; a short text stands in the box as it is.
+TEST(QtDialogs, ATallTextScrollsInsideABoxThatFitsTheScreen) {
+    QStringList agents;
+    for (int i = 1; i <= 200; ++i) {
+        agents.append(QStringLiteral("     Ann%1 Agent%1").arg(i));
+    }
+    const QString list = QStringLiteral(
+                             "The following agents do not have e-mail addresses "
+                             "configured:\r\n") +
+                         agents.join(QStringLiteral("\r\n"));
+    const struct {
+        QString text;
+        MsgButtons buttons;
+        QMessageBox::StandardButton byDefault;
+        MsgAnswer byReturnAfterEscape;  // Escape leaves a box with OK alone
+        bool scrolls;
+    } cases[] = {
+        {list, MsgButtons::YesNo, QMessageBox::No, MsgAnswer::No, true},
+        {list, MsgButtons::OK, QMessageBox::Ok, MsgAnswer::OK, true},
+        {QStringLiteral("Delete?"), MsgButtons::YesNo, QMessageBox::No, MsgAnswer::No, false}};
+    QtDialogs dialogs;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text.size());
+        bool onScreen = false;
+        bool scrolls = false;
+        bool defaultAsAsked = false;
+        whenUp([&](QWidget* widget) {
+            auto* box = static_cast<QMessageBox*>(widget);
+            const QRect area = box->screen()->availableGeometry();
+            onScreen = area.contains(box->frameGeometry());
+            for (QAbstractButton* button : box->buttons()) {
+                onScreen = onScreen &&
+                           area.contains(QRect(button->mapToGlobal(QPoint(0, 0)), button->size()));
+            }
+            const auto* text = box->findChild<QScrollArea*>();
+            scrolls = text != nullptr && text->verticalScrollBar()->maximum() > 0;
+            defaultAsAsked = box->defaultButton() == box->button(c.byDefault);
+            QTest::keyClick(box, Qt::Key_Escape);
+            if (box->isVisible()) {
+                QTest::keyClick(box, Qt::Key_Return);
+            }
+        });
+        EXPECT_EQ(dialogs.messageBox(c.text, MsgIcon::Exclamation, c.buttons, 2),
+                  c.byReturnAfterEscape);
+        EXPECT_TRUE(onScreen);
+        EXPECT_EQ(scrolls, c.scrolls);
+        EXPECT_TRUE(defaultAsAsked);
+    }
 }
 
 // The open dialog lets a name that is not there through, to be refused by the reading; both
