@@ -122,9 +122,7 @@ void makeSeparator(QMenu* menu, const char* name) {
 
 QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel) {
     ok->setDefault(true);
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), form);
-    escape->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(escape, &QShortcut::activated, cancel, &QPushButton::click);
+    onEscape(form, [cancel] { cancel->click(); });
     auto* row = new QHBoxLayout;
     if (left != nullptr) {
         row->addWidget(left);
@@ -133,6 +131,12 @@ QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButt
     row->addWidget(ok);
     row->addWidget(cancel);
     return row;
+}
+
+void onEscape(QWidget* scope, const std::function<void()>& action) {
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), scope);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(escape, &QShortcut::activated, scope, action);
 }
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <initializer_list>
 
 class Clock;
@@ -44,6 +45,9 @@ void makeSeparator(QMenu* menu, const char* name);
 // The row of a form's closing buttons: what stands at its left end, if anything, then OK,
 // the default button, and Cancel, which Escape in the form presses, at its right end.
 QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel);
+
+// Escape, while the focus is in the scope, does what is given.
+void onEscape(QWidget* scope, const std::function<void()>& action);
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
 

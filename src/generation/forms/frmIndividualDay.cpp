@@ -67,6 +67,8 @@ void frmIndividualDay::buildControls() {
     layout->addLayout(buttons);
 
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    // Escape leaves the day as it was, as the window's close box does.
+    onEscape(this, [this] { close(); });
 }
 
 // The lists offer the agents' keys as they stand now, the review having just been opened

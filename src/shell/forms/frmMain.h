@@ -178,7 +178,6 @@ signals:
 protected:
     void Form_Load() override;
     void focusInEvent(QFocusEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void buildControls();
