@@ -22,8 +22,8 @@ class QWidget;
 
 // Controls as the forms make them. Each carries its given name as its objectName, so that
 // commands and tests find it by name, and a name that a screen reader reads: its caption
-// without the access-key mark, or, for a control without a caption, the words of the label
-// or frame that stands for it.
+// without the access-key mark, which follows the caption as it changes, or, for a control
+// without a caption, the words of the label or frame that stands for it.
 
 // The name of an element of a control array: "labDay(3)".
 QString indexedName(const char* name, int index);

@@ -35,7 +35,6 @@ void frmIndividualDay::buildControls() {
     for (int n = 1; n <= kDayEditorShifts; ++n) {
         QGroupBox* frame = makeFrame(this, "", QString());
         frame->setObjectName(indexedName("fraShift", n - 1));
-        frame->setAccessibleName(QStringLiteral("Shift %1").arg(n));
         frame->hide();
         auto* lists = new QVBoxLayout(frame);
         for (int k = 0; k < kDayEditorSlots; ++k) {

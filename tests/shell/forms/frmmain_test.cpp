@@ -592,6 +592,47 @@ TEST(MainWindowForm, EveryControlHasANameToBeReadAloud) {
     }
 }
 
+// What a screen reader hears follows the captions as they change: the agent list's count, the
+// agent editor's mode, the day editor's shifts; the two main drop-downs are heard by their
+// frames, whose captions label them.
+TEST(MainWindowForm, ScreenReadersHearTheCaptionsAsTheyChange) {
+    MainWindow w;
+    withAgents(w.ws, 2);
+    setTable(w.ws, 1, 1);
+    w.ws.gShiftText.fill({QString(), QStringLiteral("9am-5pm")});
+    w.ws.gScheduleGenerated = 1;
+    w.open();
+    const auto heard = [](QObject* control) {
+        return QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
+    };
+    EXPECT_EQ(heard(w.main->fraAgents), QStringLiteral("Agent list (2 agents)"));
+    QTest::mouseClick(w.main->cmdAdd, Qt::LeftButton);
+    EXPECT_EQ(heard(w.main->fraEditAgent), QStringLiteral("Add an agent"));
+    QTest::keyClicks(w.main->txtFirstName, QStringLiteral("Zoe"));
+    QTest::keyClicks(w.main->txtLastName, QStringLiteral("Abbott"));
+    QTest::mouseClick(w.main->cmdOK, Qt::LeftButton);
+    EXPECT_EQ(heard(w.main->fraAgents), QStringLiteral("Agent list (3 agents)"));
+    QTest::mouseClick(w.main->cmdChange, Qt::LeftButton);
+    EXPECT_EQ(heard(w.main->fraEditAgent), QStringLiteral("Edit an agent"));
+    QTest::mouseClick(w.main->cmdCancel, Qt::LeftButton);
+
+    const std::pair<QComboBox*, QGroupBox*> lists[] = {{w.main->cmbGenerate, w.main->fraGenerate},
+                                                       {w.main->cmbViewEdit, w.main->fraViewEdit}};
+    for (const auto& [list, frame] : lists) {
+        EXPECT_EQ(list->accessibleName(), heard(frame));
+        const auto labels =
+            QAccessible::queryAccessibleInterface(list)->relations(QAccessible::Label);
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [frame = frame](const auto& label) {
+            return label.first->object() == frame;
+        }));
+    }
+
+    w.main->mnuESchedule->trigger();
+    QTest::mouseClick(w.main->review()->labDay[8], Qt::LeftButton);
+    EXPECT_EQ(heard(w.main->review()->dayEditor()->fraShift[0]),
+              QStringLiteral("First shift: 9am-5pm"));
+}
+
 // The forms are faces of one window that keeps one place and size, fits the screen's
 // available area, and gives every face at least the room its controls need, scrolling where
 // the screen is too small; the caption is the one of the face on top.
