@@ -48,6 +48,11 @@ TEST(Keyboard, EveryFormFromTheKeyboardAlone) {
         std::function<bool(MainWindow&)> done;
     };
     const auto mainBack = [](MainWindow& w) { return w.main->isVisible() && !w.busy(); };
+    const auto mainBackLogging = [&](const char* line) {
+        return [&, line](MainWindow& w) {
+            return mainBack(w) && logged(w.ws, QString::fromUtf8(line));
+        };
+    };
     // The month shown, after as many questions as steps.
     const auto month = [](const char* shown, std::size_t steps) {
         return [shown, steps](MainWindow& w) {
@@ -60,18 +65,12 @@ TEST(Keyboard, EveryFormFromTheKeyboardAlone) {
          [](MainWindow& w) { w.main->mnuEShifts->trigger(); },
          "frmViewDay",
          {{Qt::Key_Escape, false}},
-         [&](MainWindow& w) {
-             return mainBack(w) &&
-                    logged(w.ws, QStringLiteral("Exiting without saving daily shifts and times"));
-         }},
+         mainBackLogging("Exiting without saving daily shifts and times")},
         {"restrictions",
          [](MainWindow& w) { QTest::mouseClick(w.main->cmdRestrictions, Qt::LeftButton); },
          "frmRestrictions",
          {{Qt::Key_Escape, false}},
-         [&](MainWindow& w) {
-             return mainBack(w) &&
-                    logged(w.ws, QStringLiteral("Exiting without saving shift restrictions for  "));
-         }},
+         mainBackLogging("Exiting without saving shift restrictions for  ")},
         {"holidays, a day named",
          [](MainWindow& w) { nameDay(w, w.main->cmdHolidays); },
          "frmHolidays",
