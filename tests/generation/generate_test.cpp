@@ -159,22 +159,20 @@ TEST(Generate, TheProgramsEndLeavesTheScheduleItWasToReplace) {
     for (const int closeAt : {3, 26, 0}) {
         SCOPED_TRACE(closeAt);
         Office office(10, 5);
-        Workspace& ws = office.ws;
         Events& events = office.s.ctx.events;
-        ws.gEngine = kEngineSmartRandom;
-        fillWithOldSchedule(ws);
-        const std::vector<QString> old = ws.gSchedule;
+        office.ws.gEngine = kEngineSmartRandom;
+        fillWithOldSchedule(office.ws);
+        const std::vector<QString> old = office.ws.gSchedule;
         int yields = 0;
         events.run = [&] {
             if (++yields == closeAt) {
                 events.putOffClose();
             }
         };
-        EXPECT_EQ(events.runCommand([&] { runEngine(ws, office.s.ctx); }), closeAt > 0);
+        EXPECT_EQ(events.runCommand([&] { runEngine(office.ws, office.s.ctx); }), closeAt > 0);
         EXPECT_EQ(yields, closeAt > 0 ? closeAt : 26);
-        EXPECT_EQ(ws.gSchedule == old, closeAt > 0);
-        const QStringList log = fileText(ws.gLogFile).split(QStringLiteral("\r\n"));
-        EXPECT_TRUE(log[log.size() - 2].endsWith(
-            QStringLiteral("Generating a schedule using the SmartRandom schedule")));
+        EXPECT_EQ(office.ws.gSchedule == old, closeAt > 0);
+        EXPECT_TRUE(fileText(office.ws.gLogFile)
+                        .endsWith(u"Generating a schedule using the SmartRandom schedule\r\n"));
     }
 }

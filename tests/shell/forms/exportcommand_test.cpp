@@ -7,7 +7,6 @@
 #include "offices.h"
 
 #include <QDir>
-#include <QRegularExpression>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -108,17 +107,13 @@ TEST(ExportCommand, ClosingTheWindowStopsTheExportBeforeTheCloseRoad) {
     w.ws.chkPrint = {0, 0, 0, 0, 1, 0};
     const QString received = w.home.filePath(QStringLiteral("received.jsonl"));
     MailServer server(received, texts({"--delay", "0.2", "--refuse", "agent1@example.org"}));
-    const QString config = w.home.filePath(QStringLiteral("msmtprc"));
-    writeTextFile(config, QStringLiteral("account office\nhost 127.0.0.1\nport %1\n"
-                                         "from d@example.org\n")
+    QString& config = w.s.ctx.launch.mailConfig = w.home.filePath(QStringLiteral("msmtprc"));
+    writeTextFile(config, QStringLiteral("account o\nhost 127.0.0.1\nport %1\nfrom d@example.org\n")
                               .arg(server.port));
-    w.s.ctx.launch.mailConfig = config;
     readMailFacts(w.s.ctx.env, config);
-    const QString saved = w.home.filePath(QStringLiteral("saved.dko"));
     w.s.dialogs.answers = {MsgAnswer::Yes};
-    w.s.dialogs.fileAnswers = {saved};
-    frmMain& main = w.open();
-    QSignalSpy ends(&main, &frmMain::programEnds);
+    w.s.dialogs.fileAnswers = {w.home.filePath(QStringLiteral("saved.dko"))};
+    QSignalSpy ends(&w.open(), &frmMain::programEnds);
     const auto sent = [&] { return fileText(received).count(u'\n'); };
     qsizetype sentAtClose = -1;
     QTimer closer;
@@ -131,22 +126,16 @@ TEST(ExportCommand, ClosingTheWindowStopsTheExportBeforeTheCloseRoad) {
     closer.start(20);
 
     QTest::mouseClick(w.control<QPushButton>("cmdExport"), Qt::LeftButton);
-    closer.stop();
 
-    EXPECT_GE(sentAtClose, 6);
-    EXPECT_EQ(sent(), sentAtClose);
-    EXPECT_LT(sent(), 22);  // a request for each day the others hold but the empty one
+    // Of the 22 requests for the days the others hold, some were never sent.
+    EXPECT_TRUE(sentAtClose >= 6 && sent() == sentAtClose && sent() < 22) << sent();
     EXPECT_EQ(w.ws.schedule(4, 1, 0), leaveEmptyText());
-    EXPECT_TRUE(fileText(saved).contains(QStringLiteral("|Leave empty\r\n")));
+    EXPECT_TRUE(
+        fileText(w.home.filePath(QStringLiteral("saved.dko"))).contains(u"|Leave empty\r\n"));
     ASSERT_EQ(w.s.dialogs.shown.size(), 1U);
     EXPECT_EQ(w.s.dialogs.shown[0].buttons, MsgButtons::YesNoCancel);  // the close's question
     EXPECT_EQ(ends.count(), 1);
-    const QStringList log = fileText(w.ws.gLogFile).split(QStringLiteral("\r\n"));
-    const auto line = [&](const QString& text) {
-        return log.indexOf(
-            QRegularExpression(QStringLiteral("\\[.{8}\\]     ") + text + QStringLiteral(".*")));
-    };
-    EXPECT_LT(line(QStringLiteral("Exporting the schedule to Microsoft Outlook")),
-              line(QStringLiteral("Unloading the main form")));
-    EXPECT_EQ(line(QStringLiteral("Closing Desko40.log on ")), log.size() - 2);
+    const QString log = fileText(w.ws.gLogFile);
+    EXPECT_LT(log.indexOf(u"Failed to create"), log.indexOf(u"Unloading the main form"));
+    EXPECT_TRUE(log.section(QStringLiteral("\r\n"), -2, -2).contains(u"Closing Desko40.log on "));
 }
