@@ -160,7 +160,7 @@ PickedDays frmHolidays::picks() const {
 }
 
 bool frmHolidays::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (isCellPress(event)) {
         for (int i = 0; i < kCells; ++i) {
             if (watched == labDay[i]) {
                 labDay_MouseDown(i);

@@ -256,7 +256,7 @@ bool frmWholeCalendar::Form_Unload() {
 }
 
 bool frmWholeCalendar::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (isCellPress(event)) {
         for (int i = 0; i < kCells; ++i) {
             if (watched == labDay[i]) {
                 labDay_MouseDown(i);

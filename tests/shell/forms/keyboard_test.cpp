@@ -83,7 +83,8 @@ TEST(Keyboard, EveryFormFromTheKeyboardAlone) {
         {review, "frmWholeCalendar", {Qt::Key_Escape}, back("Closing generated schedule")},
         {[&](MainWindow& w) {
              review(w);
-             QTest::mouseClick(w.main->review()->labDay[8], Qt::LeftButton);
+             w.main->review()->labDay[8]->setFocus();
+             press(Qt::Key_Return);
          }, "frmIndividualDay", {Qt::Key_Escape},
          [](MainWindow& w) { return w.main->review()->isVisible() && !w.ws.gDirty; }},
         {[](MainWindow& w) {
