@@ -88,18 +88,6 @@ void summarise(MonthBalance& balance) {
     balance.meanMinutes /= count;
 }
 
-// A number with at most two decimals and no trailing zeros: "12", "7.5", "11.17".
-QString decimalText(double value) {
-    QString text = QString::number(value, 'f', 2);
-    while (text.endsWith(QLatin1Char('0'))) {
-        text.chop(1);
-    }
-    if (text.endsWith(QLatin1Char('.'))) {
-        text.chop(1);
-    }
-    return text == QStringLiteral("-0") ? QStringLiteral("0") : text;
-}
-
 }  // namespace
 
 MonthBalance monthBalance(const Workspace& ws) {
@@ -170,6 +158,17 @@ Load loadOf(const AgentBalance& agent) {
         return Load::Under;
     }
     return Load::Even;
+}
+
+QString decimalText(double value) {
+    QString text = QString::number(value, 'f', 2);
+    while (text.endsWith(QLatin1Char('0'))) {
+        text.chop(1);
+    }
+    if (text.endsWith(QLatin1Char('.'))) {
+        text.chop(1);
+    }
+    return text;
 }
 
 QString hoursText(double minutes) {

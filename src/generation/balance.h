@@ -69,4 +69,7 @@ QStringList balanceRow(const Workspace& ws, const MonthBalance& balance, const A
 // (positions).
 std::vector<QStringList> balanceSummary(const MonthBalance& balance);
 
+// A number with at most two decimals and no trailing zeros, "12", "7.5", "11.17"; hours from
+// minutes so.
+QString decimalText(double value);
 QString hoursText(double minutes);

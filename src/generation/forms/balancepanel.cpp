@@ -167,7 +167,9 @@ void BalancePanel::fill() {
                                     : load == Load::Under ? kUnder
                                                           : QString()) +
                                    texts[kAgentColumn]);
-        row[kAgentColumn]->setToolTip(ws_->agentName(agent.agent).trimmed());
+        row[kAgentColumn]->setToolTip(
+            ws_->agentName(agent.agent).trimmed() +
+            QStringLiteral(": a share of %1 shifts").arg(decimalText(agent.share)));
         row[2]->setToolTip(agent.untimed > 0
                                ? counted(agent.untimed, QStringLiteral("shift")) +
                                      QStringLiteral(" without a time that can be read")
