@@ -1,6 +1,7 @@
 #include "generation/balance.h"
 
 #include "core/model/leaveempty.h"
+#include "core/model/numbers.h"
 #include "core/model/shifttime.h"
 #include "generation/generate.h"
 #include "generation/positionwalk.h"
@@ -160,19 +161,8 @@ Load loadOf(const AgentBalance& agent) {
     return Load::Even;
 }
 
-QString decimalText(double value) {
-    QString text = QString::number(value, 'f', 2);
-    while (text.endsWith(QLatin1Char('0'))) {
-        text.chop(1);
-    }
-    if (text.endsWith(QLatin1Char('.'))) {
-        text.chop(1);
-    }
-    return text;
-}
-
 QString hoursText(double minutes) {
-    return decimalText(minutes / 60);
+    return decimalText(minutes / 60, 2);
 }
 
 QStringList balanceHeader() {
@@ -200,10 +190,10 @@ std::vector<QStringList> balanceSummary(const MonthBalance& balance) {
     for (const auto& [text, positions] : balance.others) {
         others += positions;
     }
-    return {
-        {QStringLiteral("Spread"), QString::number(balance.shiftSpread),
-         hoursText(balance.minuteSpread)},
-        {QStringLiteral("Mean"), decimalText(balance.meanShifts), hoursText(balance.meanMinutes)},
-        {QStringLiteral("Open"), QString::number(balance.openPositions)},
-        {QStringLiteral("Others"), QString::number(others)}};
+    return {{QStringLiteral("Spread"), QString::number(balance.shiftSpread),
+             hoursText(balance.minuteSpread)},
+            {QStringLiteral("Mean"), decimalText(balance.meanShifts, 2),
+             hoursText(balance.meanMinutes)},
+            {QStringLiteral("Open"), QString::number(balance.openPositions)},
+            {QStringLiteral("Others"), QString::number(others)}};
 }

@@ -69,7 +69,5 @@ QStringList balanceRow(const Workspace& ws, const MonthBalance& balance, const A
 // (positions).
 std::vector<QStringList> balanceSummary(const MonthBalance& balance);
 
-// A number with at most two decimals and no trailing zeros, "12", "7.5", "11.17"; hours from
-// minutes so.
-QString decimalText(double value);
+// Hours from minutes with at most two decimals: "12", "7.5", "11.17".
 QString hoursText(double minutes);

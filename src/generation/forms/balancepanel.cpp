@@ -1,5 +1,6 @@
 #include "generation/forms/balancepanel.h"
 
+#include "core/model/numbers.h"
 #include "core/model/workspace.h"
 
 #include <QEvent>
@@ -169,7 +170,7 @@ void BalancePanel::fill() {
                                    texts[kAgentColumn]);
         row[kAgentColumn]->setToolTip(
             ws_->agentName(agent.agent).trimmed() +
-            QStringLiteral(": a share of %1 shifts").arg(decimalText(agent.share)));
+            QStringLiteral(": a share of %1 shifts").arg(decimalText(agent.share, 2)));
         row[2]->setToolTip(agent.untimed > 0
                                ? counted(agent.untimed, QStringLiteral("shift")) +
                                      QStringLiteral(" without a time that can be read")
