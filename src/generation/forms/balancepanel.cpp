@@ -19,6 +19,7 @@ namespace {
 // The columns of the table are the balance's own but its last: the load stands as a sign
 // before the agent's key.
 constexpr int kAgentColumn = 0;
+constexpr int kHoursColumn = 2;
 constexpr int kLoadColumn = 8;
 constexpr int kKeyFigureColumns = 3;
 constexpr int kSortRole = Qt::UserRole + 1;
@@ -52,6 +53,45 @@ QColor blend(const QColor& base, const QColor& tint, double share) {
                             static_cast<float>(base.blueF() * (1 - share) + tint.blueF() * share));
 }
 
+// The spread and the mean under the table.
+QString spreadText(const MonthBalance& balance) {
+    const std::vector<QStringList> summary = balanceSummary(balance);
+    return QStringLiteral("Spread: %1 shifts, %2 hours\nMean: %3 shifts, %4 hours")
+        .arg(summary[0][1], summary[0][2], summary[1][1], summary[1][2]);
+}
+
+// What the marks mean, and what the table leaves out.
+QString notesText(const MonthBalance& balance) {
+    QStringList notes = {
+        QStringLiteral("%1over, %2under: more than one shift from the agent's share")
+            .arg(kOver, kUnder)};
+    if (balance.openPositions > 0) {
+        notes.append(QStringLiteral("Open positions: %1").arg(balance.openPositions));
+    }
+    if (!balance.others.empty()) {
+        QStringList names;
+        for (const auto& [text, positions] : balance.others) {
+            names.append(text);
+        }
+        notes.append(QStringLiteral("Held by no agent: %1 (%2)")
+                         .arg(balanceSummary(balance)[3][1], names.join(QStringLiteral(", "))));
+    }
+    int untimed = 0;
+    for (const AgentBalance& agent : balance.agents) {
+        untimed += agent.untimed;
+    }
+    if (untimed > 0) {
+        notes.append(QStringLiteral("Hours leave out ") +
+                     counted(untimed, QStringLiteral("shift")) +
+                     QStringLiteral(" whose time cannot be read"));
+    }
+    if (!balance.adjacentCounted) {
+        notes.append(
+            QStringLiteral("Adjacent days count only with twice the agents the busiest day needs"));
+    }
+    return notes.join(QLatin1Char('\n'));
+}
+
 }  // namespace
 
 BalancePanel::BalancePanel(QWidget* parent) : QWidget(parent) {
@@ -63,7 +103,7 @@ BalancePanel::BalancePanel(QWidget* parent) : QWidget(parent) {
 
     tabBalance = new QTableView(this);
     tabBalance->setObjectName(QStringLiteral("tabBalance"));
-    tabBalance->setAccessibleName(QStringLiteral("Balance"));
+    tabBalance->setAccessibleName(QStringLiteral("Balance of the month"));
     tabBalance->setModel(sorted_);
     tabBalance->setSortingEnabled(true);
     tabBalance->sortByColumn(kAgentColumn, Qt::AscendingOrder);
@@ -132,9 +172,6 @@ void BalancePanel::showBalance(const Workspace& ws) {
 }
 
 void BalancePanel::fill() {
-    if (ws_ == nullptr) {
-        return;
-    }
     const int keep = chosen_;
     chosen_ = -1;  // the rows go and come back: no choice is given up meanwhile
     model_->setRowCount(0);
@@ -171,45 +208,15 @@ void BalancePanel::fill() {
         row[kAgentColumn]->setToolTip(
             ws_->agentName(agent.agent).trimmed() +
             QStringLiteral(": a share of %1 shifts").arg(decimalText(agent.share, 2)));
-        row[2]->setToolTip(agent.untimed > 0
-                               ? counted(agent.untimed, QStringLiteral("shift")) +
-                                     QStringLiteral(" without a time that can be read")
-                               : QString());
+        row[kHoursColumn]->setToolTip(agent.untimed > 0
+                                          ? counted(agent.untimed, QStringLiteral("shift")) +
+                                                QStringLiteral(" without a time that can be read")
+                                          : QString());
         model_->appendRow(row);
     }
     fitColumns();
-
-    const std::vector<QStringList> summary = balanceSummary(balance_);
-    labSpread->setText(QStringLiteral("Spread: %1 shifts, %2 hours\nMean: %3 shifts, %4 hours")
-                           .arg(summary[0][1], summary[0][2], summary[1][1], summary[1][2]));
-    QStringList notes = {
-        QStringLiteral("%1over, %2under: more than one shift from the agent's share")
-            .arg(kOver, kUnder)};
-    if (balance_.openPositions > 0) {
-        notes.append(QStringLiteral("Open positions: %1").arg(balance_.openPositions));
-    }
-    if (!balance_.others.empty()) {
-        QStringList names;
-        for (const auto& [text, positions] : balance_.others) {
-            names.append(text);
-        }
-        notes.append(QStringLiteral("Held by no agent: %1 (%2)")
-                         .arg(summary[3][1], names.join(QStringLiteral(", "))));
-    }
-    int untimed = 0;
-    for (const AgentBalance& agent : balance_.agents) {
-        untimed += agent.untimed;
-    }
-    if (untimed > 0) {
-        notes.append(QStringLiteral("Hours leave out ") +
-                     counted(untimed, QStringLiteral("shift")) +
-                     QStringLiteral(" whose time cannot be read"));
-    }
-    if (!balance_.adjacentCounted) {
-        notes.append(
-            QStringLiteral("Adjacent days count only with twice the agents the busiest day needs"));
-    }
-    labBalanceNotes->setText(notes.join(QLatin1Char('\n')));
+    labSpread->setText(spreadText(balance_));
+    labBalanceNotes->setText(notesText(balance_));
     chosen_ = 0;
     choose(keep);
 }
@@ -266,8 +273,9 @@ bool BalancePanel::eventFilter(QObject* watched, QEvent* event) {
 
 void BalancePanel::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    // The tints come from the palette.
-    if (event->type() == QEvent::PaletteChange) {
-        fill();
+    // The tints come from the palette. The month is counted afresh, as the agents may have
+    // changed since it was shown.
+    if (event->type() == QEvent::PaletteChange && ws_ != nullptr) {
+        showBalance(*ws_);
     }
 }
