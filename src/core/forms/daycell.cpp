@@ -32,6 +32,14 @@ QSize DayCell::minimumSizeHint() const {
     return size_;
 }
 
+void DayCell::setMarked(bool marked) {
+    setAutoFillBackground(marked);
+    setBackgroundRole(marked ? QPalette::Highlight : QPalette::Window);
+    for (QWidget* label : {static_cast<QWidget*>(text), static_cast<QWidget*>(number)}) {
+        label->setForegroundRole(marked ? QPalette::HighlightedText : QPalette::WindowText);
+    }
+}
+
 void DayCell::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
     const QRect inside = contentsRect() - kPadding;

@@ -10,6 +10,7 @@
 #include "core/services/log.h"
 #include "core/services/msgbox.h"
 #include "generation/engines.h"
+#include "generation/forms/balancepanel.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/generate.h"
 #include "generation/review.h"
@@ -98,6 +99,60 @@ void frmWholeCalendar::buildControls() {
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     // The review has no Cancel: Escape closes it as OK does.
     onEscape(this, [this] { cmdOK->click(); });
+    addBalancePanel();
+}
+
+// The balance takes a column of its own right of the calendar, its toggle the left end of
+// the button row.
+void frmWholeCalendar::addBalancePanel() {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    calendarWidth_ = grid->minimumSize().width();
+    balancePanel = new BalancePanel(this);
+    balancePanel->hide();
+    grid->addWidget(balancePanel, kDayNameRow, kColumns, kButtonRow - kDayNameRow, 1);
+    cmdBalance = makeButton(this, "cmdBalance", QStringLiteral("&Balance"));
+    cmdBalance->setCheckable(true);
+    grid->addWidget(cmdBalance, kButtonRow, 0, Qt::AlignLeft);
+    connect(cmdBalance, &QPushButton::clicked, this, [this](bool shown) {
+        balanceShown_ = shown;
+        fitBalancePanel();
+    });
+    connect(balancePanel, &BalancePanel::agentChosen, this,
+            [this](int agent) { markAgentDays(agent); });
+}
+
+QSize frmWholeCalendar::sizeHint() const {
+    QSize wanted = Form::sizeHint();
+    if (balancePanel->isHidden()) {
+        wanted.rwidth() += layout()->spacing() + balancePanel->sizeHint().width();
+    }
+    return wanted;
+}
+
+void frmWholeCalendar::fitBalancePanel() {
+    const int room = calendarWidth_ + layout()->spacing() + balancePanel->minimumSizeHint().width();
+    const bool shown = balanceShown_.value_or(width() >= room);
+    if (!shown) {
+        balancePanel->choose(0);
+    }
+    balancePanel->setVisible(shown);
+    cmdBalance->setChecked(shown);
+}
+
+void frmWholeCalendar::resizeEvent(QResizeEvent* event) {
+    Form::resizeEvent(event);
+    fitBalancePanel();
+}
+
+void frmWholeCalendar::markAgentDays(int agent) {
+    const MonthBalance& balance = balancePanel->balance();
+    for (int i = 0; i < kCells; ++i) {
+        const int day = i + 1 - ws_.gFirstWeekday;
+        const bool worked = agent >= 1 && agent <= static_cast<int>(balance.agents.size()) &&
+                            day >= 1 && day < kMonthDaySlots &&
+                            balance.agents[agent - 1].worked[day];
+        static_cast<DayCell*>(labDay[i]->parentWidget())->setMarked(worked);
+    }
 }
 
 // Where the instruction, the agent list and the buttons stand depends on what the engine
@@ -154,6 +209,8 @@ void frmWholeCalendar::Form_Load() {
     }
 
     ws_.gScheduleGenerated = 1;
+    balancePanel->choose(0);
+    fitBalancePanel();
 
     showNormalPointer();
     doEvents();
@@ -174,6 +231,9 @@ void frmWholeCalendar::Form_Activate() {
         labDay[i]->setLines(dayCaption(ws_, d));
         labDay[i]->parentWidget()->show();
     }
+    balancePanel->showBalance(ws_);
+    fitBalancePanel();
+    markAgentDays(balancePanel->chosenAgent());
     show();
     showNormalPointer();
 }
