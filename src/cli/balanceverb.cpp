@@ -50,8 +50,7 @@ QString json(const Workspace& ws, const MonthBalance& balance) {
             {QStringLiteral("double"), agent.doubledDays},
             {QStringLiteral("adjacent"),
              balance.adjacentCounted ? QJsonValue(agent.adjacentDays) : QJsonValue()},
-            {QStringLiteral("share"), rounded(agent.share)},
-            {QStringLiteral("load"), loads[static_cast<int>(loadOf(agent))]},
+            {QStringLiteral("load"), loads[static_cast<int>(loadOf(balance, agent))]},
         });
     }
     QJsonObject others;

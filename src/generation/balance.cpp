@@ -44,30 +44,6 @@ void countRuns(AgentBalance& agent, int days) {
     }
 }
 
-// Each agent's share of the month's shifts, by the positions of the days the agent is free.
-void shareOut(const Workspace& ws, MonthBalance& balance, int days) {
-    std::array<int, kMonthDaySlots> positions{};
-    for (int d = 1; d <= days; ++d) {
-        if (ws.gHoliday[d] != 1) {
-            forEachPosition(ws, d, ShiftOrder::Upward, [&](int, int) { ++positions[d]; });
-        }
-    }
-    std::vector<int> free(balance.agents.size(), 0);
-    int allFree = 0;
-    int allShifts = 0;
-    for (std::size_t i = 0; i < balance.agents.size(); ++i) {
-        for (int d = 1; d <= days; ++d) {
-            free[i] += ws.gVacation[balance.agents[i].agent][d] == 1 ? 0 : positions[d];
-        }
-        allFree += free[i];
-        allShifts += balance.agents[i].shifts;
-    }
-    for (std::size_t i = 0; i < balance.agents.size(); ++i) {
-        balance.agents[i].share =
-            allFree > 0 ? static_cast<double>(allShifts) * free[i] / allFree : 0.0;
-    }
-}
-
 void summarise(MonthBalance& balance) {
     if (balance.agents.empty()) {
         return;
@@ -146,16 +122,15 @@ MonthBalance monthBalance(const Workspace& ws) {
     for (AgentBalance& agent : balance.agents) {
         countRuns(agent, days);
     }
-    shareOut(ws, balance, days);
     summarise(balance);
     return balance;
 }
 
-Load loadOf(const AgentBalance& agent) {
-    if (agent.shifts - agent.share > 1) {
+Load loadOf(const MonthBalance& balance, const AgentBalance& agent) {
+    if (agent.shifts - balance.meanShifts > 1) {
         return Load::Over;
     }
-    if (agent.share - agent.shifts > 1) {
+    if (balance.meanShifts - agent.shifts > 1) {
         return Load::Under;
     }
     return Load::Even;
@@ -182,7 +157,7 @@ QStringList balanceRow(const Workspace& ws, const MonthBalance& balance,
             QString::number(agent.longestRun),
             QString::number(agent.doubledDays),
             balance.adjacentCounted ? QString::number(agent.adjacentDays) : QStringLiteral("-"),
-            loads[static_cast<int>(loadOf(agent))]};
+            loads[static_cast<int>(loadOf(balance, agent))]};
 }
 
 std::vector<QStringList> balanceSummary(const MonthBalance& balance) {

@@ -30,9 +30,6 @@ struct AgentBalance {
     int longestRun = 0;     // consecutive days worked
     int doubledDays = 0;    // days with two shifts or more
     int adjacentDays = 0;   // days worked right after a day worked
-    // The shifts that fall to the agent: the month's shifts shared out in proportion to the
-    // positions of the days the agent is not on vacation. Without vacations, the mean.
-    double share = 0;
     // Worked on day d of the month.
     std::array<bool, kMonthDaySlots> worked{};
 };
@@ -55,9 +52,9 @@ struct MonthBalance {
 
 MonthBalance monthBalance(const Workspace& ws);
 
-// Over when the agent's shifts are more than one above the share, under when more than one
+// Over when the agent's shifts are more than one above the mean, under when more than one
 // below it.
-Load loadOf(const AgentBalance& agent);
+Load loadOf(const MonthBalance& balance, const AgentBalance& agent);
 
 // The table the panel and the tool show, cell by cell: the header, then a row per agent
 // (key, shifts, hours, weekend, noted, run, double, adjacent, load: "over", "under" or

@@ -1,6 +1,5 @@
 #include "generation/forms/balancepanel.h"
 
-#include "core/model/numbers.h"
 #include "core/model/workspace.h"
 
 #include <QEvent>
@@ -30,8 +29,8 @@ const QString kUnder = QStringLiteral("\u25BC ");
 const QString kAgentSample = QStringLiteral("Nakamura");
 
 const char* const kColumnTips[] = {
-    "The agent's key, with \u25B2 for more than one shift over the agent's share of the "
-    "month and \u25BC for more than one under it",
+    "The agent's key, with \u25B2 for more than one shift over the mean and \u25BC for "
+    "more than one under it",
     "Shifts in the month",
     "Hours of the shifts whose time can be read",
     "Shifts on Saturdays and Sundays",
@@ -63,8 +62,7 @@ QString spreadText(const MonthBalance& balance) {
 // What the marks mean, and what the table leaves out.
 QString notesText(const MonthBalance& balance) {
     QStringList notes = {
-        QStringLiteral("%1over, %2under: more than one shift from the agent's share")
-            .arg(kOver, kUnder)};
+        QStringLiteral("%1over, %2under: more than one shift from the mean").arg(kOver, kUnder)};
     if (balance.openPositions > 0) {
         notes.append(QStringLiteral("Open positions: %1").arg(balance.openPositions));
     }
@@ -178,7 +176,7 @@ void BalancePanel::fill() {
     const QPalette colours = palette();
     for (const AgentBalance& agent : balance_.agents) {
         const QStringList texts = balanceRow(*ws_, balance_, agent);
-        const Load load = loadOf(agent);
+        const Load load = loadOf(balance_, agent);
         QList<QStandardItem*> row;
         for (int c = 0; c < kLoadColumn; ++c) {
             auto* item = new QStandardItem(texts[c]);
@@ -205,9 +203,7 @@ void BalancePanel::fill() {
                                     : load == Load::Under ? kUnder
                                                           : QString()) +
                                    texts[kAgentColumn]);
-        row[kAgentColumn]->setToolTip(
-            ws_->agentName(agent.agent).trimmed() +
-            QStringLiteral(": a share of %1 shifts").arg(decimalText(agent.share, 2)));
+        row[kAgentColumn]->setToolTip(ws_->agentName(agent.agent).trimmed());
         row[kHoursColumn]->setToolTip(agent.untimed > 0
                                           ? counted(agent.untimed, QStringLiteral("shift")) +
                                                 QStringLiteral(" without a time that can be read")
