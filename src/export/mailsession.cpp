@@ -29,7 +29,8 @@ QString senderOf(const MailAccount& account) {
 
 }  // namespace
 
-MailSession::MailSession(TransportMaker makeTransport) : makeTransport_(std::move(makeTransport)) {
+MailSession::MailSession(TransportMaker makeTransport, PasswordPlaces places)
+    : makeTransport_(std::move(makeTransport)), places_(std::move(places)) {
     closedReason_ = QStringLiteral("No mail account is open");
 }
 
@@ -40,13 +41,14 @@ bool MailSession::open(const QString& configPath, const QString& accountName) {
                         QStringLiteral("\" could not be read from ") + configPath;
         return false;
     }
-    const std::optional<QString> password = accountPassword(*account);
-    if (!password) {
-        closedReason_ = QStringLiteral("The password command of the mail account \"") +
-                        accountName + QStringLiteral("\" failed");
+    if (!password_) {
+        password_ = accountPassword(*account, places_);
+    }
+    if (!password_->password) {
+        closedReason_ = password_->missing;
         return false;
     }
-    transport_ = makeTransport_(*account, *password);
+    transport_ = makeTransport_(*account, *password_->password);
     sender_ = senderOf(*account);
     return true;
 }

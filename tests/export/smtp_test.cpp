@@ -54,11 +54,15 @@ protected:
         QProcess tool;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("DESKO_HOME"), home.path());
+        env.insert(QStringLiteral("HOME"), home.path());
         env.insert(QStringLiteral("DESKO_MAIL_CONFIG"), account.isNull() ? home.path() : config);
         env.insert(QStringLiteral("TZ"), QStringLiteral("Europe/Berlin"));
         tool.setProcessEnvironment(env);
-        tool.start(QStringLiteral(DESKO_CLI_PATH), QStringList{QStringLiteral("export"), office} +
-                                                       texts({"--email", "--calendar"}) + more);
+        const QStringList command =
+            launcher +
+            QStringList{QStringLiteral(DESKO_CLI_PATH), QStringLiteral("export"), office} +
+            texts({"--email", "--calendar"}) + more;
+        tool.start(command.front(), command.mid(1));
         EXPECT_TRUE(tool.waitForFinished(60000));
         EXPECT_EQ(tool.exitCode(), 0);
         return QString::fromUtf8(tool.readAllStandardError());
@@ -72,6 +76,28 @@ protected:
         return messages;
     }
 
+    // The server's options for STARTTLS with a certificate of its own that only the account's
+    // trust file trusts, and a login as desk with the password s3cret; the trust file.
+    std::pair<QStringList, QString> secureServer() const {
+        const QString cert = work.filePath(QStringLiteral("cert.pem"));
+        const QString key = work.filePath(QStringLiteral("key.pem"));
+        if (!QFile::exists(cert)) {
+            QProcess openssl;
+            openssl.setStandardErrorFile(QProcess::nullDevice());
+            openssl.start(
+                QStringLiteral("openssl"),
+                texts({"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=localhost",
+                       "-addext", "subjectAltName=IP:127.0.0.1", "-keyout"}) +
+                    QStringList{key, QStringLiteral("-out"), cert});
+            EXPECT_TRUE(openssl.waitForFinished(60000));
+        }
+        return {
+            QStringList{QStringLiteral("--tls"), cert, key} + texts({"--login", "desk", "s3cret"}),
+            cert};
+    }
+
+    // What runs the tool, as a command and its first arguments; nothing for the tool alone.
+    QStringList launcher;
     QTemporaryDir home;
     QTemporaryDir work;
     const QString file = work.filePath(QStringLiteral("received.jsonl"));
@@ -116,18 +142,11 @@ TEST_F(MailExport, ReachesARealServerOverOneConnection) {
 // account that cannot be opened; an outbox instead of a server. Each failed message is a
 // results line, the export runs to its end in seconds, and no password is ever told.
 TEST_F(MailExport, GoesOnPastEveryFailure) {
-    const QString cert = work.filePath(QStringLiteral("cert.pem"));
-    const QString key = work.filePath(QStringLiteral("key.pem"));
-    QProcess openssl;
-    openssl.setStandardErrorFile(QProcess::nullDevice());
-    openssl.start(QStringLiteral("openssl"),
-                  texts({"req", "-x509", "-newkey", "rsa:2048", "-nodes", "-subj", "/CN=localhost",
-                         "-addext", "subjectAltName=IP:127.0.0.1", "-keyout"}) +
-                      QStringList{key, QStringLiteral("-out"), cert});
-    ASSERT_TRUE(openssl.waitForFinished(60000));
+    const auto [secure, cert] = secureServer();
     const QString tls = QStringLiteral("tls on\ntls_trust_file %1\nauth on\nuser desk\n").arg(cert);
-    const QStringList secure =
-        QStringList{QStringLiteral("--tls"), cert, key} + texts({"--login", "desk", "s3cret"});
+    // Each export runs the password command once, however often the session is opened.
+    const QString counted =
+        QStringLiteral("passwordeval echo run >>%1; ").arg(work.filePath(QStringLiteral("runs")));
     const QString outbox = work.filePath(QStringLiteral("outbox"));
     const struct {
         QStringList server;
@@ -137,7 +156,7 @@ TEST_F(MailExport, GoesOnPastEveryFailure) {
         const char* told;  // on standard error
         int failures;      // results lines in all
     } cases[] = {
-        {secure, tls + QStringLiteral("passwordeval echo s3cret\n"), {}, 136, "", 0},
+        {secure, tls + counted + QStringLiteral("echo s3cret\n"), {}, 136, "", 0},
         {secure,
          tls + QStringLiteral("password wr0ng\n"),
          {},
@@ -158,7 +177,7 @@ TEST_F(MailExport, GoesOnPastEveryFailure) {
          1},
         {texts({"--silent"}), QStringLiteral("timeout 1\n"), {}, 0, "erik.svensson", 24},
         {{},
-         QStringLiteral("passwordeval exit 3\n"),
+         QStringLiteral("auth on\n") + counted + QStringLiteral("exit 3\n"),
          {},
          0,
          "(The password command of the mail account \"office\" failed)",
@@ -178,10 +197,46 @@ TEST_F(MailExport, GoesOnPastEveryFailure) {
         EXPECT_EQ(err.count(QStringLiteral("\nFailed to ")), c.failures);
         EXPECT_FALSE(err.contains(u"wr0ng") || err.contains(u"s3cret"));
     }
+    EXPECT_EQ(fileText(work.filePath(QStringLiteral("runs"))), QStringLiteral("run\nrun\n"));
     // The outbox holds each message that would have gone, in sending order.
     const QStringList sent = QDir(outbox).entryList(QDir::Files, QDir::Name);
     ASSERT_EQ(sent.size(), 136);
     EXPECT_EQ(sent.back(), QStringLiteral("0136.eml"));
     EXPECT_TRUE(fileText(QDir(outbox).filePath(sent[0]))
                     .contains(QStringLiteral("\r\nTo: patrick.brennan@example.org\r\n")));
+}
+
+// The account as msmtp reads it: "tls_trust_file system" trusts the system's certificates,
+// which know nothing of the server's own; an account that logs in without a password line
+// takes the password from the desktop's keyring (a gnome-keyring of the test's own), else from
+// ~/.netrc.
+TEST_F(MailExport, ReadsTheAccountAsMsmtpDoes) {
+    const auto [secure, cert] = secureServer();
+    const QString login =
+        QStringLiteral("tls on\ntls_trust_file %1\nauth on\nuser desk\n").arg(cert);
+    launcher = texts({"dbus-run-session", "--", "sh", DESKO_KEYRING_SCRIPT, "127.0.0.1", "desk"});
+    const struct {
+        QString account;
+        const char* keyring;
+        const char* netrc;
+        int received;
+        const char* told;
+    } cases[] = {
+        {QStringLiteral("tls on\ntls_trust_file system\n"), "", "", 0,
+         "(SSL certificate problem: self-signed certificate)"},
+        {login, "s3cret", "machine 127.0.0.1 login desk password wr0ng\n", 136, ""},
+        {login, "", "machine 127.0.0.1\n  login desk password s3cret\n", 136, ""},
+        {login, "", "", 0, "(No password for the mail account \"office\" was found in"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.account.toStdString() + c.keyring + c.netrc);
+        writeTextFile(home.filePath(QStringLiteral(".netrc")), QString::fromUtf8(c.netrc));
+        launcher.insert(6, QString::fromUtf8(c.keyring));
+        MailServer server(file, secure);
+        const QString err = exportOffice(QStringLiteral("port %1\n").arg(server.port) + c.account);
+        launcher.removeAt(6);
+        EXPECT_EQ(received().size(), c.received);
+        EXPECT_TRUE(err.contains(QString::fromUtf8(c.told))) << err.toStdString();
+        EXPECT_FALSE(err.contains(u"wr0ng") || err.contains(u"s3cret"));
+    }
 }
