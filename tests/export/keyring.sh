@@ -13,6 +13,15 @@ rm -rf "$XDG_DATA_HOME"
 mkdir -p "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR"
 chmod 700 "$XDG_RUNTIME_DIR"
 printf 'unlock' | gnome-keyring-daemon --unlock --components=secrets >/dev/null
+# The daemon answers on the bus a moment after it returns; a store before that would start a
+# second one, without the unlocked keyring.
+for _ in $(seq 100); do
+  if dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \
+      org.freedesktop.DBus.NameHasOwner string:org.freedesktop.secrets | grep -q 'boolean true'; then
+    break
+  fi
+  sleep 0.1
+done
 if [ -n "$secret" ]; then
   printf '%s' "$secret" | secret-tool store --label=msmtp host "$host" service smtp user "$user"
 fi

@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 namespace {
 
 const QString kSubject = QStringLiteral("Расписание · 一月 2027 — a subject long enough to fold");
@@ -49,6 +51,9 @@ protected:
             QStringLiteral("account office\nhost 127.0.0.1\nfrom d@example.org\n") + account);
         const QString office = work.filePath(QStringLiteral("office.dko"));
         QString text = fileText(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"));
+        for (const auto& [from, to] : changes) {
+            text.replace(from, to);
+        }
         writeTextFile(office, text.replace(QStringLiteral("Subject=January 2027 Desko Schedule"),
                                            QStringLiteral("Subject=") + kSubject));
         QProcess tool;
@@ -96,6 +101,8 @@ protected:
             cert};
     }
 
+    // Changes made to the office's file before it is exported, in turn.
+    QList<std::pair<QString, QString>> changes;
     // What runs the tool, as a command and its first arguments; nothing for the tool alone.
     QStringList launcher;
     QTemporaryDir home;
@@ -130,7 +137,9 @@ TEST_F(MailExport, ReachesARealServerOverOneConnection) {
                m[u"to"].toString() == u"wei.chen@example.org";
     });
     ASSERT_NE(chen, messages.end());
-    EXPECT_EQ(QJsonDocument((*chen)[u"calendar"].toObject()).toJson(QJsonDocument::Compact),
+    QJsonObject calendar = (*chen)[u"calendar"].toObject();
+    EXPECT_GT(calendar.take(u"sequence").toInt(), 14000000);  // the minutes since 2000
+    EXPECT_EQ(QJsonDocument(calendar).toJson(QJsonDocument::Compact),
               R"({"attendee":"mailto:wei.chen@example.org","end":"2027-01-06T20:00:00+01:00",)"
               R"("method":"REQUEST","organizer":"mailto:d@example.org","rsvp":"FALSE",)"
               R"("start":"2027-01-06T16:00:00+01:00","timezones":1,"typeMethod":"REQUEST",)"
@@ -239,4 +248,70 @@ TEST_F(MailExport, ReadsTheAccountAsMsmtpDoes) {
         EXPECT_TRUE(err.contains(QString::fromUtf8(c.told))) << err.toStdString();
         EXPECT_FALSE(err.contains(u"wr0ng") || err.contains(u"s3cret"));
     }
+}
+
+// After an export, a change and another export, each attendee's calendar (the messages applied
+// in order, a version lower than the one held passed over) holds exactly what a first export of
+// the final schedule would put there: the shift given to another agent and every appointment at
+// the address an agent left are cancelled before the requests, and the shift whose time changed
+// moves, all at a version above the first export's, though both ran within the same minute.
+TEST_F(MailExport, LeavesEachCalendarHoldingTheFinalSchedule) {
+    using Calendars = QMap<QString, QMap<QString, QString>>;  // attendee, appointment: times
+    MailServer server(file, {});
+    const QString account = QStringLiteral("port %1\n").arg(server.port);
+    QMap<QString, int> versions;
+    const auto apply = [&](Calendars& calendars, qsizetype from) {
+        int lastCancel = -1;
+        int firstRequest = -1;
+        int lowest = INT_MAX;
+        const QList<QJsonObject> messages = received();
+        for (qsizetype i = from; i < messages.size(); ++i) {
+            const QJsonObject event = messages[i][u"calendar"].toObject();
+            if (event.isEmpty()) {
+                continue;
+            }
+            const QString uid = event[u"uid"].toString();
+            const int version = event[u"sequence"].toInt();
+            lowest = std::min(lowest, version);
+            const bool cancel = event[u"method"].toString() == u"CANCEL";
+            (cancel ? lastCancel : firstRequest) = static_cast<int>(i);
+            if (version < versions.value(uid)) {
+                continue;
+            }
+            versions[uid] = version;
+            QMap<QString, QString>& calendar = calendars[event[u"attendee"].toString()];
+            if (cancel) {
+                calendar.remove(uid);
+            } else {
+                calendar[uid] = event[u"start"].toString() + u' ' + event[u"end"].toString();
+            }
+        }
+        calendars.removeIf([](const auto& calendar) { return calendar.value().isEmpty(); });
+        EXPECT_LT(lastCancel, firstRequest);
+        return lowest;
+    };
+    Calendars calendars;
+    exportOffice(account);
+    const int firstVersion = apply(calendars, 0);
+    const qsizetype firstCount = received().size();
+    changes = {{QStringLiteral("16=5|1|1|Brennan"), QStringLiteral("16=5|1|1|Chen")},
+               {QStringLiteral("erik.svensson@"), QStringLiteral("erik.s@")},
+               {QStringLiteral("1=9am-5pm|1"), QStringLiteral("1=9am-3pm|1")}};
+    exportOffice(account);
+    EXPECT_GT(apply(calendars, firstCount), firstVersion);
+    const QList<QJsonObject> second = received().mid(firstCount);
+    const qsizetype cancelled = std::count_if(second.begin(), second.end(), [](const auto& m) {
+        return m[u"calendar"][u"method"].toString() == u"CANCEL";
+    });
+    EXPECT_EQ(cancelled, 1 + calendars.value(QStringLiteral("mailto:erik.s@example.org")).size());
+
+    // A first export of the final schedule, with no memory of the earlier ones.
+    ASSERT_TRUE(QFile::remove(home.filePath(QStringLiteral("Desko40.requests"))));
+    versions.clear();
+    const qsizetype secondCount = received().size();
+    exportOffice(account);
+    Calendars fresh;
+    apply(fresh, secondCount);
+    EXPECT_EQ(calendars, fresh);
+    EXPECT_EQ(fresh.size(), 12);
 }
