@@ -6,6 +6,7 @@
 #include "fakes.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -314,4 +315,26 @@ TEST_F(MailExport, LeavesEachCalendarHoldingTheFinalSchedule) {
     apply(fresh, secondCount);
     EXPECT_EQ(calendars, fresh);
     EXPECT_EQ(fresh.size(), 12);
+}
+
+// The calendar files of an office with a shift whose time cannot be read and a "Leave empty"
+// cell, as python3-icalendar reads them beside the meeting requests of the same export: a file
+// per agent and one for the office, each publishing exactly its shifts in the local zone with
+// the requests' appointments and times, the unreadable shift as a day's event.
+TEST_F(MailExport, WritesCalendarFilesAsTheRequestsHaveThem) {
+    changes = {{QStringLiteral("16=5|1|1|Brennan"), QStringLiteral("16=5|1|1|Leave empty")},
+               {QStringLiteral("1=9am-5pm|1"), QStringLiteral("1=All day|1")}};
+    const QString outbox = work.filePath(QStringLiteral("outbox"));
+    const QString ics = work.filePath(QStringLiteral("calendars"));
+    exportOffice(QStringLiteral(""),
+                 {QStringLiteral("--outbox"), outbox, QStringLiteral("--ics"), ics});
+    QProcess reader;
+    reader.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    reader.start(QStringLiteral("/usr/bin/python3"),
+                 {QStringLiteral(DESKO_ICS_READER), ics, outbox});
+    ASSERT_TRUE(reader.waitForFinished(60000));
+    const QString golden = QFileInfo(QStringLiteral(DESKO_ICS_READER))
+                               .dir()
+                               .filePath(QStringLiteral("golden/office.ics.txt"));
+    EXPECT_EQ(QString::fromUtf8(reader.readAllStandardOutput()), fileText(golden));
 }

@@ -84,3 +84,31 @@ TEST(ExportCommand, ResolveButtonFindsTheAddressInTheAddressBook) {
         EXPECT_EQ(main.txtEmail->font().underline(), main.txtEmail->text().contains(u'@'));
     }
 }
+
+// File > Save calendars as iCalendar files... stands ready once a schedule is generated, asks
+// for a folder in the program's directory, and writes a file per agent and one for the office
+// there; a Cancel writes nothing.
+TEST(ExportCommand, SavesTheCalendarsInTheFolderChosen) {
+    MainWindow w;
+    setAgents(w.ws, {{"Brennan", "Pat"}, {"Chen", "Wei"}});
+    setTable(w.ws, 1, 1);
+    dealInTurn(w.ws);
+    frmMain& main = w.open();
+    QAction* item = w.control<QAction>("mnuFSaveIcs");
+    emit main.mnuFile->aboutToShow();
+    EXPECT_FALSE(item->isEnabled());
+    w.ws.gScheduleGenerated = 1;
+    emit main.mnuFile->aboutToShow();
+    w.s.dialogs.fileAnswers = {std::nullopt, w.home.filePath(QStringLiteral("ics"))};
+    QDir(w.home.path()).mkdir(QStringLiteral("ics"));
+
+    item->trigger();
+    EXPECT_EQ(QDir(w.home.filePath(QStringLiteral("ics"))).count(), 2U);  // . and ..
+    item->trigger();
+
+    ASSERT_EQ(w.s.dialogs.filesShown.size(), 2U);
+    EXPECT_EQ(w.s.dialogs.filesShown[1].request.initialDir, w.ws.gAppPath);
+    EXPECT_EQ(QDir(w.home.filePath(QStringLiteral("ics"))).entryList(QDir::Files),
+              QStringList({QStringLiteral("Brennan, Pat.ics"), QStringLiteral("Chen, Wei.ics"),
+                           QStringLiteral("Office.ics")}));
+}
