@@ -137,6 +137,7 @@ std::optional<QString> runFileDialog(const FileDialog& request, QFileDialog::Acc
     QFileDialog dialog(parent, request.title, request.initialDir);
     dialog.setAcceptMode(mode);
     dialog.setFileMode(fileMode);
+    dialog.setOption(QFileDialog::ShowDirsOnly, fileMode == QFileDialog::Directory);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.promptOverwrite);
     const QStringList filters = nameFilters(request.filter);
     if (!filters.isEmpty()) {
