@@ -17,18 +17,15 @@ for mail in sorted(outbox.glob("*.eml")):
     for part in message.walk():
         if part.get_content_type() == "text/calendar":
             for event in icalendar.Calendar.from_ical(part.get_content()).walk("VEVENT"):
-                if event["UID"]:
-                    requests.add((str(event["UID"]), event.decoded("DTSTART"), event.decoded("DTEND")))
+                requests.add((str(event["UID"]), event.decoded("DTSTART"), event.decoded("DTEND")))
 for path in sorted(folder.iterdir()):
     calendar = icalendar.Calendar.from_ical(path.read_bytes())
     zones = ",".join(str(zone["TZID"]) for zone in calendar.walk("VTIMEZONE"))
     print(f"{path.name}\t{calendar['METHOD']}\t{zones}")
     events = sorted(calendar.walk("VEVENT"), key=lambda e: (str(e.decoded("DTSTART")), str(e["SUMMARY"])))
     for event in events:
-        start, end = event.decoded("DTSTART"), event.decoded("DTEND")
-        attendee = event.get("ATTENDEE")
+        start, end, attendee = event.decoded("DTSTART"), event.decoded("DTEND"), event.get("ATTENDEE")
         who = f"{attendee.params.get('CN', '')} <{attendee}>" if attendee else ""
-        requested = (str(event["UID"]), start, end) in requests
-        print(f"\t{start.isoformat()}\t{end.isoformat()}\t{event['SUMMARY']}\t{who}\t"
-              f"{'request' if requested else '-'}")
+        requested = "request" if (str(event["UID"]), start, end) in requests else "-"
+        print(f"\t{start.isoformat()}\t{end.isoformat()}\t{event['SUMMARY']}\t{who}\t{requested}")
 print(f"requests\t{len(requests)}")

@@ -10,16 +10,12 @@ host=$1 user=$2 secret=$3
 shift 3
 export XDG_DATA_HOME="$HOME/keyring" XDG_RUNTIME_DIR="$HOME/runtime"
 rm -rf "$XDG_DATA_HOME"
-mkdir -p "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR"
-chmod 700 "$XDG_RUNTIME_DIR"
+mkdir -p "$XDG_DATA_HOME" && mkdir -p -m 700 "$XDG_RUNTIME_DIR"
 printf 'unlock' | gnome-keyring-daemon --unlock --components=secrets >/dev/null
 # The daemon answers on the bus a moment after it returns; a store before that would start a
 # second one, without the unlocked keyring.
-for _ in $(seq 100); do
-  if dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \
-      org.freedesktop.DBus.NameHasOwner string:org.freedesktop.secrets | grep -q 'boolean true'; then
-    break
-  fi
+until dbus-send --session --print-reply --dest=org.freedesktop.DBus /org/freedesktop/DBus \
+    org.freedesktop.DBus.NameHasOwner string:org.freedesktop.secrets | grep -q 'boolean true'; do
   sleep 0.1
 done
 if [ -n "$secret" ]; then

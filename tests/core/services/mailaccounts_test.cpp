@@ -1,6 +1,4 @@
 #include "core/services/mailaccounts.h"
-#include "core/services/mailpassword.h"
-#include "core/services/netrc.h"
 
 #include "core/services/textfile.h"
 
@@ -57,61 +55,4 @@ TEST(MailAccounts, FindsTheDefaultAccountAsMsmtpReadsIt) {
     }
     EXPECT_FALSE(defaultMailAccount(dir.filePath(QStringLiteral("missing"))).has_value());
     EXPECT_FALSE(defaultMailAccount(QString()).has_value());
-}
-
-// A netrc file as msmtp reads it, and the order in which an account's password is looked for.
-TEST(MailAccounts, FindsThePasswordWhereMsmtpLooks) {
-    const struct {
-        const char* netrc;
-        const char* found;  // for login desk at smtp.example.org; nullptr: none
-    } files[] = {
-        {"machine smtp.example.org login desk password s3cret\n", "s3cret"},
-        // Quotes hold blanks; a value may stand on the next line; a comment ends a line.
-        {"machine smtp.example.org\n  user 'desk' # the office\n  passwd \"two words\"\n",
-         "two words"},
-        // The login must match exactly; an entry without one counts for nothing.
-        {"machine smtp.example.org login Desk password no\nmachine smtp.example.org password no\n"
-         "machine smtp.example.org login desk password yes\n",
-         "yes"},
-        // default names no machine; a macro's lines up to an empty line are passed over.
-        {"default login desk password no\nmacdef init\nmachine smtp.example.org login desk "
-         "password no\n\nmachine smtp.example.org login desk password after\n",
-         "after"},
-        {"machine other.example.org login desk password no\n", nullptr},
-    };
-    for (const auto& f : files) {
-        SCOPED_TRACE(f.netrc);
-        const std::optional<QString> password = netrcPassword(
-            QString::fromUtf8(f.netrc), QStringLiteral("smtp.example.org"), QStringLiteral("desk"));
-        EXPECT_EQ(password.has_value(), f.found != nullptr);
-        EXPECT_EQ(password.value_or(QString()), QString::fromUtf8(f.found));
-    }
-
-    QTemporaryDir dir;
-    const PasswordPlaces places{false, dir.filePath(QStringLiteral("user")),
-                                dir.filePath(QStringLiteral("system"))};
-    writeTextFile(places.systemNetrc, QStringLiteral("machine h login desk password system\n"
-                                                     "machine h login other password other\n"));
-    writeTextFile(places.userNetrc, QStringLiteral("machine h login desk password user\n"));
-    const struct {
-        const char* account;
-        const char* password;  // nullptr: none, with the reason
-    } accounts[] = {
-        {"auth on\nuser desk\npassword line\npasswordeval echo eval\n", "line"},
-        {"auth on\nuser desk\npasswordeval echo eval; echo more\n", "eval"},
-        {"auth on\nuser desk\n", "user"},
-        {"auth on\nuser other\n", "other"},
-        {"auth off\nuser desk\npasswordeval exit 1\n", ""},
-        {"auth on\nuser desk\npasswordeval exit 1\n", nullptr},
-        {"auth on\nuser nobody\n", nullptr},
-    };
-    for (const auto& a : accounts) {
-        SCOPED_TRACE(a.account);
-        const MailConfig config = parseMailConfig(QStringLiteral("account office\nhost h\n") +
-                                                  QString::fromUtf8(a.account));
-        const AccountPassword found = accountPassword(config.accounts.front(), places);
-        EXPECT_EQ(found.password.value_or(QStringLiteral("(none)")),
-                  a.password != nullptr ? QString::fromUtf8(a.password) : QStringLiteral("(none)"));
-        EXPECT_EQ(found.missing.contains(u"\"office\""), a.password == nullptr);
-    }
 }
