@@ -29,8 +29,7 @@ QString senderOf(const MailAccount& account) {
 
 }  // namespace
 
-MailSession::MailSession(TransportMaker makeTransport, PasswordPlaces places)
-    : makeTransport_(std::move(makeTransport)), places_(std::move(places)) {
+MailSession::MailSession(TransportMaker makeTransport) : makeTransport_(std::move(makeTransport)) {
     closedReason_ = QStringLiteral("No mail account is open");
 }
 
@@ -42,7 +41,7 @@ bool MailSession::open(const QString& configPath, const QString& accountName) {
         return false;
     }
     if (!password_) {
-        password_ = accountPassword(*account, places_);
+        password_ = accountPassword(*account);
     }
     if (!password_->password) {
         closedReason_ = password_->missing;

@@ -31,8 +31,7 @@ struct AgentMail {
 // every message of the export, so that one connection to the server carries them all.
 class MailSession {
 public:
-    explicit MailSession(TransportMaker makeTransport,
-                         PasswordPlaces places = passwordPlacesOfThisMachine());
+    explicit MailSession(TransportMaker makeTransport);
 
     bool isOpen() const { return transport_ != nullptr; }
     // Opens the account of that name in the mail configuration and asks for its password;
@@ -50,7 +49,6 @@ public:
 
 private:
     TransportMaker makeTransport_;
-    PasswordPlaces places_;
     std::optional<AccountPassword> password_;
     std::unique_ptr<MailTransport> transport_;
     QString sender_;

@@ -65,17 +65,13 @@ std::optional<QString> keyringPassword(const MailAccount& account) {
 }
 
 std::optional<QString> netrcFilePassword(const QString& path, const MailAccount& account) {
-    const std::optional<QString> text = path.isEmpty() ? std::nullopt : readTextFile(path);
+    const std::optional<QString> text = readTextFile(path);
     return text ? netrcPassword(*text, account.host, account.user) : std::nullopt;
 }
 
 }  // namespace
 
-PasswordPlaces passwordPlacesOfThisMachine() {
-    return {true, QDir::homePath() + QStringLiteral("/.netrc"), QStringLiteral("/etc/netrc")};
-}
-
-AccountPassword accountPassword(const MailAccount& account, const PasswordPlaces& places) {
+AccountPassword accountPassword(const MailAccount& account) {
     if (!account.auth || !account.password.isEmpty()) {
         return {account.password, {}};
     }
@@ -87,12 +83,12 @@ AccountPassword accountPassword(const MailAccount& account, const PasswordPlaces
         return {std::nullopt, QStringLiteral("The password command of the mail account ") + quoted +
                                   QStringLiteral(" failed")};
     }
-    std::optional<QString> password = places.keyring ? keyringPassword(account) : std::nullopt;
+    std::optional<QString> password = keyringPassword(account);
     if (!password) {
-        password = netrcFilePassword(places.userNetrc, account);
+        password = netrcFilePassword(QDir::homePath() + QStringLiteral("/.netrc"), account);
     }
     if (!password) {
-        password = netrcFilePassword(places.systemNetrc, account);
+        password = netrcFilePassword(QStringLiteral("/etc/netrc"), account);
     }
     if (password) {
         return {password, {}};
