@@ -90,7 +90,7 @@ void OutlookChannel::run() {
                                                session_.sender(),
                                                firstAddress,
                                                {}}});
-    view_.doEvents();
+    ctx_.events.doEvents();
     cancelWithdrawnAppointments();
     // done counts on over all agents, so the bar is full after the first agent's pass.
     done_ = 1;
@@ -116,6 +116,9 @@ void OutlookChannel::run() {
 }
 
 void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift) {
+    if (!ctx_.events.doEvents()) {
+        return;
+    }
     const ShiftTimes& times = times_[weekday][shift];
     if (!times.ok) {
         const QString line = uninterpretedShiftLine(ws_, weekday, shift);
@@ -197,7 +200,13 @@ void OutlookChannel::cancelWithdrawnAppointments() {
     journal_.sent.insert(journal_.sent.end(), withdrawn.begin(), withdrawn.end());
     writeRequestJournal(journalPath_, month_, journal_);
     journal_.sent = requested;
-    for (const SentAppointment& sent : withdrawn) {
+    for (auto it = withdrawn.begin(); it != withdrawn.end(); ++it) {
+        // A program that ends keeps what it did not cancel for the next export.
+        if (!ctx_.events.doEvents()) {
+            journal_.sent.insert(journal_.sent.end(), it, withdrawn.end());
+            return;
+        }
+        const SentAppointment& sent = *it;
         const QByteArray cancellation =
             requests_.build(CalendarMethod::Cancel, {{sent.uid,
                                                       sent.date,
@@ -221,7 +230,6 @@ void OutlookChannel::cancelWithdrawnAppointments() {
                           QStringLiteral(" with error ") + QString::number(failure->number) +
                           QStringLiteral(" (") + failure->description + QLatin1Char(')'));
         }
-        view_.doEvents();
     }
 }
 
