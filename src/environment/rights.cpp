@@ -32,7 +32,7 @@ QString warning(const QString& place, const QString& lost, const Dialogs& dialog
 
 // The first line of the file, as it was written.
 QString firstLine(const QString& path) {
-    return readTextFile(path).value_or(QString()).section(QStringLiteral("\r\n"), 0, 0);
+    return textLines(readTextFile(path).value_or(QString())).constFirst();
 }
 
 // A file left read-only is made writable first, so that it goes.

@@ -6,7 +6,6 @@
 #include "core/services/textfile.h"
 #include "persistence/workspacefile.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 namespace {
@@ -18,8 +17,7 @@ const QString kLineEnd = QStringLiteral("\r\n");
 // line end opens no line of its own. A text without a line gives one empty line, as a copy
 // that reads before it tests for the end does.
 QStringList linesOf(const QString& text) {
-    static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
-    QStringList lines = text.split(lineEnd);
+    QStringList lines = textLines(text);
     if (lines.size() > 1 && lines.last().isEmpty()) {
         lines.removeLast();
     }
