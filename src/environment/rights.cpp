@@ -1,5 +1,6 @@
 #include "environment/rights.h"
 
+#include "core/model/session.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/msgbox.h"
@@ -45,7 +46,7 @@ void deleteFile(const QString& path) {
 
 bool modCheckRights(const Workspace& ws, Context& ctx) {
     const QString word = QStringLiteral("Test");
-    const QString ownKey = ws.gRegistryBase + QStringLiteral("\\Test");
+    const QString ownKey = ws.gRegistryBase + QLatin1Char('\\') + kRightsCheckKey;
     const QString settingsKey = ws.gRegistryBase + QStringLiteral("\\Settings");
     const QString file = ws.gAppPath + QStringLiteral("/Test.txt");
 
