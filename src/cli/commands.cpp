@@ -94,8 +94,8 @@ int resave(const QStringList& args, QTextStream& err, const Launch& launch) {
     }
     const QString& in = files[0];
     const QString& target = files[1];
-    if (!readable(in)) {
-        return fail(err, in, QStringLiteral("cannot be read"));
+    if (!readInput(err, in)) {
+        return 1;
     }
     // A plain read and write of the format, with nothing of the program's opening.
     Session session(err, in, launch);
@@ -116,8 +116,8 @@ int keys(const QStringList& args, QTextStream& out, QTextStream& err, const Laun
         return usage(err);
     }
     const QString& path = args[1];
-    if (!readable(path)) {
-        return fail(err, path, QStringLiteral("cannot be read"));
+    if (!readInput(err, path)) {
+        return 1;
     }
     Session session(err, path, launch);
     if (!open(session, path, false)) {
@@ -182,8 +182,8 @@ int generate(const QStringList& args, QTextStream& err, const Launch& launch) {
     }
     const QString& in = options->files[0];
     const QString& target = options->files[1];
-    if (!readable(in)) {
-        return fail(err, in, QStringLiteral("cannot be read"));
+    if (!readInput(err, in)) {
+        return 1;
     }
     Session session(err, in, launch);
     if (!open(session, in, options->working)) {
