@@ -1,9 +1,11 @@
 #include "persistence/configdump.h"
 
 #include "core/model/workspace.h"
+#include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
 #include "core/services/textfile.h"
+#include "persistence/backupring.h"
 #include "persistence/workspacefile.h"
 
 #include <QStringList>
@@ -78,6 +80,7 @@ bool openConfigurationDump(Workspace& ws, Context& ctx) {
     // Any text file is taken for a dump. The whole dump is read before either file is
     // written, so a dump chosen from the program's own folder survives its restoring.
     const RestoredFiles files = restoredFiles(readTextFile(*chosen).value_or(QString()));
+    keepBackup(ws.gConfigFile, ctx.clock.now());
     writeTextFile(ws.gConfigFile, files.workingFile);
     writeTextFile(ws.gLogFile, files.log);
     modLoadWorkspace(ws, ctx, QString());
