@@ -211,9 +211,8 @@ TEST_F(Cli, BackupsAreListedAndPutBack) {
     for (int agents = 1; agents <= kBackupsKept + 2; ++agents) {
         office += QString::number(agents) + QStringLiteral("=A|a|\r\n");
         writeTextFile(ini, office);
-        for (int again = 0; again < 2; ++again) {
-            keepBackup(ini, QDateTime(QDate(2001, 1, 15), QTime(9, 0, agents)));
-        }
+        keepBackup(ini, QDateTime(QDate(2001, 1, 15), QTime(9, 0, agents)));
+        keepBackup(ini, QDateTime(QDate(2001, 1, 15), QTime(9, 0, agents)));
     }
     const Result listed = run({QStringLiteral("backups"), work.path()});
     const QStringList lines = listed.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
