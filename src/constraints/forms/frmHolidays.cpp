@@ -93,7 +93,6 @@ void frmHolidays::Form_Load() {
                                ws_.gCalendarSixRows == 0 ? 0 : kCellSize.height());
     labMonth->setText(ws_.currentMonthAndYear());
     fraMonth->setTitle(dayPickerCaption(ws_));
-    fraMonth->setAccessibleName(fraMonth->title());
     const bool vacations = ws_.gDayPickerMode == kPickVacations;
     cmbAgent->clear();
     cmbAgent->setVisible(vacations);
@@ -161,7 +160,7 @@ PickedDays frmHolidays::picks() const {
 }
 
 bool frmHolidays::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (isCellPress(event)) {
         for (int i = 0; i < kCells; ++i) {
             if (watched == labDay[i]) {
                 labDay_MouseDown(i);
@@ -180,7 +179,6 @@ void frmHolidays::labDay_MouseDown(int index) {
 void frmHolidays::cmbAgent_Click() {
     if (switchVacationAgent(ws_, ctx_, cmbAgent->currentIndex(), picks())) {
         fraMonth->setTitle(dayPickerCaption(ws_));
-        fraMonth->setAccessibleName(fraMonth->title());
         showDays();
     } else if (ws_.hasAgent(ws_.gDayPickerAgent)) {
         // A refused turn leaves the agent on show, with the picks as they are.

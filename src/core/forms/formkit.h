@@ -2,12 +2,14 @@
 
 #include <QString>
 
+#include <functional>
 #include <initializer_list>
 
 class Clock;
 class QAction;
 class QCheckBox;
 class QComboBox;
+class QEvent;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
@@ -21,8 +23,8 @@ class QWidget;
 
 // Controls as the forms make them. Each carries its given name as its objectName, so that
 // commands and tests find it by name, and a name that a screen reader reads: its caption
-// without the access-key mark, or, for a control without a caption, the words of the label
-// or frame that stands for it.
+// without the access-key mark, which follows the caption as it changes, or, for a control
+// without a caption, the words of the label or frame that stands for it.
 
 // The name of an element of a control array: "labDay(3)".
 QString indexedName(const char* name, int index);
@@ -44,6 +46,13 @@ void makeSeparator(QMenu* menu, const char* name);
 // The row of a form's closing buttons: what stands at its left end, if anything, then OK,
 // the default button, and Cancel, which Escape in the form presses, at its right end.
 QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel);
+
+// Escape, while the focus is in the scope, does what is given.
+void onEscape(QWidget* scope, const std::function<void()>& action);
+
+// A press on a calendar cell: a mouse button, or Return, Enter or Space while the cell has the
+// focus.
+bool isCellPress(const QEvent* event);
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
 

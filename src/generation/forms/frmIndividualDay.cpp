@@ -35,7 +35,6 @@ void frmIndividualDay::buildControls() {
     for (int n = 1; n <= kDayEditorShifts; ++n) {
         QGroupBox* frame = makeFrame(this, "", QString());
         frame->setObjectName(indexedName("fraShift", n - 1));
-        frame->setAccessibleName(QStringLiteral("Shift %1").arg(n));
         frame->hide();
         auto* lists = new QVBoxLayout(frame);
         for (int k = 0; k < kDayEditorSlots; ++k) {
@@ -67,6 +66,8 @@ void frmIndividualDay::buildControls() {
     layout->addLayout(buttons);
 
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    // Escape leaves the day as it was, as the window's close box does.
+    onEscape(this, [this] { close(); });
 }
 
 // The lists offer the agents' keys as they stand now, the review having just been opened

@@ -96,6 +96,8 @@ void frmWholeCalendar::buildControls() {
     // Choosing an entry, also the one already shown, is the list's click.
     connect(cmbAgents, &QComboBox::activated, this, [this] { cmbAgents_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    // The review has no Cancel: Escape closes it as OK does.
+    onEscape(this, [this] { cmdOK->click(); });
 }
 
 // Where the instruction, the agent list and the buttons stand depends on what the engine
@@ -254,7 +256,7 @@ bool frmWholeCalendar::Form_Unload() {
 }
 
 bool frmWholeCalendar::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (isCellPress(event)) {
         for (int i = 0; i < kCells; ++i) {
             if (watched == labDay[i]) {
                 labDay_MouseDown(i);

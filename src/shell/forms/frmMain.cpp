@@ -4,6 +4,7 @@
 
 #include "core/forms/facewindow.h"
 #include "core/forms/formkit.h"
+#include "core/services/context.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "shell/forms/monthstepper.h"
 
@@ -60,6 +61,8 @@ frmMain::frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString&
     buildMenus();
     connectCommands();
     connectAgentCommands();
+    // The long commands' yields run the window's events.
+    ctx.events.run = [] { doEvents(); };
     review_ = new frmWholeCalendar(ws, ctx, *this, window);
     window.fitFaces();
     load();
@@ -158,16 +161,15 @@ void frmMain::buildControls() {
 QWidget* frmMain::buildCommandFrames() {
     auto* commands = new QWidget(this);
     fraViewEdit = makeFrame(commands, "fraViewEdit", QStringLiteral("View/edit current . . ."));
-    cmbViewEdit = makeDropDown(fraViewEdit, QStringLiteral("cmbViewEdit"),
-                               QStringLiteral("View/edit current"));
+    // The two drop-downs are read aloud by their frames.
+    cmbViewEdit = makeDropDown(fraViewEdit, QStringLiteral("cmbViewEdit"), fraViewEdit->title());
     cmdViewEdit = makeButton(fraViewEdit, "cmdViewEdit", QStringLiteral("&View/edit"));
     auto* viewEditLayout = new QHBoxLayout(fraViewEdit);
     viewEditLayout->addWidget(cmbViewEdit, 1);
     viewEditLayout->addWidget(cmdViewEdit);
 
     fraGenerate = makeFrame(commands, "fraGenerate", QStringLiteral("Generate schedule"));
-    cmbGenerate = makeDropDown(fraGenerate, QStringLiteral("cmbGenerate"),
-                               QStringLiteral("Scheduling engine"));
+    cmbGenerate = makeDropDown(fraGenerate, QStringLiteral("cmbGenerate"), fraGenerate->title());
     cmdGenerate = makeButton(fraGenerate, "cmdGenerate", QStringLiteral("Genera&te"));
     for (QComboBox* list : {cmbViewEdit, cmbGenerate}) {
         // Wide enough for the longest entry, which is filled in after the window has its size.
