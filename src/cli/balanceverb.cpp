@@ -90,8 +90,8 @@ std::optional<int> balanceVerb(const QStringList& args, QTextStream& out, QTextS
     if (path.isEmpty() || (format != QStringLiteral("tsv") && format != QStringLiteral("json"))) {
         return std::nullopt;
     }
-    if (!readable(path)) {
-        return fail(err, path, QStringLiteral("cannot be read"));
+    if (!readInput(err, path)) {
+        return 1;
     }
     Session session(err, path, launch);
     if (!openSchedule(session.ws, session.ctx, path)) {

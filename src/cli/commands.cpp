@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 
 #include "cli/balanceverb.h"
+#include "cli/backupverbs.h"
 #include "cli/exportverb.h"
 #include "cli/printverb.h"
 #include "cli/session.h"
@@ -32,7 +33,9 @@ const QString kUsage = QStringLiteral(
     "                   [--trace FILE]\n"
     "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR] [--ics "
     "DIR]\n"
-    "       desko40-cli balance FILE [--format tsv|json]\n");
+    "       desko40-cli balance FILE [--format tsv|json]\n"
+    "       desko40-cli backups DIR\n"
+    "       desko40-cli restore BACKUP DIR\n");
 
 int usage(QTextStream& err) {
     err << kUsage;
@@ -97,8 +100,8 @@ int resave(const QStringList& args, QTextStream& err, const Launch& launch) {
     }
     const QString& in = files[0];
     const QString& target = files[1];
-    if (!readable(in)) {
-        return fail(err, in, QStringLiteral("cannot be read"));
+    if (!readInput(err, in)) {
+        return 1;
     }
     // A plain read and write of the format, with nothing of the program's opening.
     Session session(err, in, launch);
@@ -119,8 +122,8 @@ int keys(const QStringList& args, QTextStream& out, QTextStream& err, const Laun
         return usage(err);
     }
     const QString& path = args[1];
-    if (!readable(path)) {
-        return fail(err, path, QStringLiteral("cannot be read"));
+    if (!readInput(err, path)) {
+        return 1;
     }
     Session session(err, path, launch);
     if (!open(session, path, false)) {
@@ -185,8 +188,8 @@ int generate(const QStringList& args, QTextStream& err, const Launch& launch) {
     }
     const QString& in = options->files[0];
     const QString& target = options->files[1];
-    if (!readable(in)) {
-        return fail(err, in, QStringLiteral("cannot be read"));
+    if (!readInput(err, in)) {
+        return 1;
     }
     Session session(err, in, launch);
     if (!open(session, in, options->working)) {
@@ -246,6 +249,14 @@ int runCommand(const QStringList& args, QTextStream& out, QTextStream& err, cons
     }
     if (command == QStringLiteral("balance")) {
         const std::optional<int> status = balanceVerb(args, out, err, launch);
+        return status ? *status : usage(err);
+    }
+    if (command == QStringLiteral("backups")) {
+        const std::optional<int> status = backupsVerb(args, out, err);
+        return status ? *status : usage(err);
+    }
+    if (command == QStringLiteral("restore")) {
+        const std::optional<int> status = restoreVerb(args, err);
         return status ? *status : usage(err);
     }
     return usage(err);

@@ -81,8 +81,8 @@ std::optional<int> exportSchedule(const QStringList& args, QTextStream& err, con
     if (!options) {
         return std::nullopt;
     }
-    if (!readable(options->in)) {
-        return fail(err, options->in, QStringLiteral("cannot be read"));
+    if (!readInput(err, options->in)) {
+        return 1;
     }
     Session session(err, options->in, launch);
     if (!openSchedule(session.ws, session.ctx, options->in)) {

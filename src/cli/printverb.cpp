@@ -96,8 +96,8 @@ std::optional<int> printVerb(const QStringList& args, QTextStream& err, const La
     if (!options) {
         return std::nullopt;
     }
-    if (!readable(options->in)) {
-        return fail(err, options->in, QStringLiteral("cannot be read"));
+    if (!readInput(err, options->in)) {
+        return 1;
     }
     QFile traceFile(options->trace);
     QTextStream trace(&traceFile);

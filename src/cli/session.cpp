@@ -2,6 +2,8 @@
 
 #include "core/model/calendar.h"
 #include "core/model/session.h"
+#include "persistence/profilefile.h"
+#include "persistence/scheduleformat.h"
 
 #include <QFileInfo>
 
@@ -24,7 +26,17 @@ int fail(QTextStream& err, const QString& path, const QString& what) {
     return 1;
 }
 
-bool readable(const QString& path) {
+bool readInput(QTextStream& err, const QString& path) {
     const QFileInfo info(path);
-    return info.isFile() && info.isReadable();
+    if (!info.isFile() || !info.isReadable()) {
+        fail(err, path, QStringLiteral("cannot be read"));
+        return false;
+    }
+    Workspace ws;
+    modInitNameTables(ws);
+    for (const RowsNotRead& cut : rowsNotRead(ws, ProfileFile::read(path))) {
+        err << "desko40-cli: " << path << ": [" << cut.section << "] holds " << cut.held
+            << " rows, of which only the first " << cut.read << " were read\n";
+    }
+    return true;
 }

@@ -46,5 +46,7 @@ struct Session {
 // Tells on err that the file failed as `what` says; the exit status of a failed command.
 int fail(QTextStream& err, const QString& path, const QString& what);
 
-// Whether the path names a file the tool can read.
-bool readable(const QString& path);
+// Whether the path names a file the tool can read; when it does not, err tells so. A file
+// that holds more rows in a section than reading takes is read all the same, and err names
+// the section and how many of its rows were read.
+bool readInput(QTextStream& err, const QString& path);

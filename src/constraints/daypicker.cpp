@@ -3,6 +3,7 @@
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
 #include "core/services/log.h"
+#include "persistence/rowlimit.h"
 #include "persistence/scheduleformat.h"
 #include "persistence/workspacefile.h"
 
@@ -113,6 +114,20 @@ void storePicks(Workspace& ws, const PickedDays& picks, int mode, int agent) {
     }
 }
 
+// Whether the file can keep the month's vacation days with the picks as the agent's on show;
+// the user is told when it cannot.
+bool roomForPicks(Workspace& ws, Context& ctx, const PickedDays& picks) {
+    const int agent = ws.gDayPickerAgent;
+    if (!ws.hasAgent(agent)) {
+        return true;
+    }
+    const DayFlags before = ws.gVacation[agent];
+    storePicks(ws, picks, kPickVacations, agent);
+    const int rows = sectionRows(ws, RowSection::Vacations);
+    ws.gVacation[agent] = before;
+    return roomForRows(ctx, RowSection::Vacations, rows);
+}
+
 }  // namespace
 
 QString dayPickerOpenLine(const Workspace& ws) {
@@ -210,9 +225,12 @@ bool clickPickerDay(Workspace& ws, Context& ctx, int day, bool picked) {
     return ws.gDayPickerMode == kPickVacations || modNameDay(ws, ctx);
 }
 
-void savePickedDays(Workspace& ws, Context& ctx, const PickedDays& picks) {
-    ws.gDirty = 1;
+bool savePickedDays(Workspace& ws, Context& ctx, const PickedDays& picks) {
     const int mode = ws.gDayPickerMode;
+    if (mode == kPickVacations && !roomForPicks(ws, ctx, picks)) {
+        return false;
+    }
+    ws.gDirty = 1;
     if (mode == kPickHolidays) {
         modStatus(ws, ctx, QStringLiteral("Saving holidays for ") + ws.currentMonthName());
     } else if (mode == kPickNotedDays) {
@@ -223,10 +241,11 @@ void savePickedDays(Workspace& ws, Context& ctx, const PickedDays& picks) {
     }
     storePicks(ws, picks, mode, ws.gDayPickerAgent);
     modSaveWorkspace(ws, ctx, QString());
+    return true;
 }
 
 bool switchVacationAgent(Workspace& ws, Context& ctx, int listIndex, const PickedDays& picks) {
-    if (listIndex == -1 || listIndex + 1 == ws.gDayPickerAgent) {
+    if (listIndex == -1 || listIndex + 1 == ws.gDayPickerAgent || !roomForPicks(ws, ctx, picks)) {
         return false;
     }
     ws.gDirty = 1;

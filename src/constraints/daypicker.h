@@ -39,9 +39,12 @@ bool modNameDay(Workspace& ws, Context& ctx);
 // noted day is picked only when it gets a name; a vacation day flips.
 bool clickPickerDay(Workspace& ws, Context& ctx, int day, bool picked);
 
-// The picker's OK: the picks become the mode's table, and the working file is written.
-void savePickedDays(Workspace& ws, Context& ctx, const PickedDays& picks);
+// The picker's OK: the picks become the mode's table, and the working file is written. False,
+// with nothing changed, when the file could not keep that many vacation days; the user has
+// been told.
+bool savePickedDays(Workspace& ws, Context& ctx, const PickedDays& picks);
 
 // The picker turns to the agent of the list index: the picks so far are the previous agent's
-// and are saved at once. False when it is the agent on show, or none.
+// and are saved at once. False when it is the agent on show, or none, or when the file could
+// not keep the picks, which the user has been told.
 bool switchVacationAgent(Workspace& ws, Context& ctx, int listIndex, const PickedDays& picks);

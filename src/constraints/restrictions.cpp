@@ -3,6 +3,7 @@
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
+#include "persistence/rowlimit.h"
 #include "persistence/workspacefile.h"
 
 #include <algorithm>
@@ -21,6 +22,20 @@ void storeBoxes(Workspace& ws, const RestrictionBoxes& boxes) {
             ws.gRestriction[agent][w][s] = boxes[w][s - 1] ? 1 : 0;
         }
     }
+}
+
+// Whether the file can keep the restrictions with the boxes as the agent's on show; the user
+// is told when it cannot.
+bool roomForBoxes(Workspace& ws, Context& ctx, const RestrictionBoxes& boxes) {
+    const int agent = ws.gRestrictionAgent;
+    if (!ws.hasAgent(agent)) {
+        return true;
+    }
+    const ShiftTable before = ws.gRestriction[agent];
+    storeBoxes(ws, boxes);
+    const int rows = sectionRows(ws, RowSection::Restrictions);
+    ws.gRestriction[agent] = before;
+    return roomForRows(ctx, RowSection::Restrictions, rows);
 }
 
 }  // namespace
@@ -42,7 +57,7 @@ RestrictionBoxes restrictionBoxes(const Workspace& ws) {
 
 bool switchRestrictionAgent(Workspace& ws, Context& ctx, int listIndex,
                             const RestrictionBoxes& boxes) {
-    if (listIndex + 1 == ws.gRestrictionAgent) {
+    if (listIndex + 1 == ws.gRestrictionAgent || !roomForBoxes(ws, ctx, boxes)) {
         return false;
     }
     ws.gDirty = 1;
@@ -53,11 +68,15 @@ bool switchRestrictionAgent(Workspace& ws, Context& ctx, int listIndex,
     return true;
 }
 
-void saveRestrictions(Workspace& ws, Context& ctx, const RestrictionBoxes& boxes) {
+bool saveRestrictions(Workspace& ws, Context& ctx, const RestrictionBoxes& boxes) {
+    if (!roomForBoxes(ws, ctx, boxes)) {
+        return false;
+    }
     ws.gDirty = 1;
     // The line has always named no agent: two blanks end it.
     modStatus(ws, ctx, QStringLiteral("Saving shift restrictions for  "));
     storeBoxes(ws, boxes);
     ws.gHasRestrictions = 0;
     modSaveWorkspace(ws, ctx, QString());
+    return true;
 }

@@ -21,9 +21,12 @@ QString restrictionsLine(const Workspace& ws);
 RestrictionBoxes restrictionBoxes(const Workspace& ws);
 
 // The editor turns to the agent of the list index, storing the boxes for the one on show
-// without asking. False when it is the agent on show.
+// without asking. False when it is the agent on show, or when the file could not keep the
+// boxes, which the user has been told.
 bool switchRestrictionAgent(Workspace& ws, Context& ctx, int listIndex,
                             const RestrictionBoxes& boxes);
 
-// OK: the boxes are stored for the agent on show and the working file is written.
-void saveRestrictions(Workspace& ws, Context& ctx, const RestrictionBoxes& boxes);
+// OK: the boxes are stored for the agent on show and the working file is written. False, with
+// nothing changed, when the file could not keep that many restrictions; the user has been
+// told.
+bool saveRestrictions(Workspace& ws, Context& ctx, const RestrictionBoxes& boxes);

@@ -1,5 +1,6 @@
 #include "environment/rights.h"
 
+#include "core/model/session.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/msgbox.h"
@@ -32,7 +33,7 @@ QString warning(const QString& place, const QString& lost, const Dialogs& dialog
 
 // The first line of the file, as it was written.
 QString firstLine(const QString& path) {
-    return readTextFile(path).value_or(QString()).section(QStringLiteral("\r\n"), 0, 0);
+    return textLines(readTextFile(path).value_or(QString())).constFirst();
 }
 
 // A file left read-only is made writable first, so that it goes.
@@ -45,7 +46,7 @@ void deleteFile(const QString& path) {
 
 bool modCheckRights(const Workspace& ws, Context& ctx) {
     const QString word = QStringLiteral("Test");
-    const QString ownKey = ws.gRegistryBase + QStringLiteral("\\Test");
+    const QString ownKey = ws.gRegistryBase + QLatin1Char('\\') + kRightsCheckKey;
     const QString settingsKey = ws.gRegistryBase + QStringLiteral("\\Settings");
     const QString file = ws.gAppPath + QStringLiteral("/Test.txt");
 

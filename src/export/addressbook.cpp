@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QStringList>
 
 namespace {
@@ -46,9 +45,8 @@ QString unescaped(const QString& value) {
 // The lines of the text with folded lines joined: a line that begins with a blank or a tab
 // continues the one before.
 QStringList unfoldedLines(const QString& text) {
-    static const QRegularExpression lineBreak(QStringLiteral("\r\n|\r|\n"));
     QStringList lines;
-    for (const QString& line : text.split(lineBreak)) {
+    for (const QString& line : textLines(text)) {
         if (!lines.isEmpty() &&
             (line.startsWith(QLatin1Char(' ')) || line.startsWith(QLatin1Char('\t')))) {
             lines.last() += line.mid(1);

@@ -1,12 +1,13 @@
 #include "persistence/configdump.h"
 
 #include "core/model/workspace.h"
+#include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/dialogs.h"
 #include "core/services/textfile.h"
+#include "persistence/backupring.h"
 #include "persistence/workspacefile.h"
 
-#include <QRegularExpression>
 #include <QStringList>
 
 namespace {
@@ -18,8 +19,7 @@ const QString kLineEnd = QStringLiteral("\r\n");
 // line end opens no line of its own. A text without a line gives one empty line, as a copy
 // that reads before it tests for the end does.
 QStringList linesOf(const QString& text) {
-    static const QRegularExpression lineEnd(QStringLiteral("\r\n|\r|\n"));
-    QStringList lines = text.split(lineEnd);
+    QStringList lines = textLines(text);
     if (lines.size() > 1 && lines.last().isEmpty()) {
         lines.removeLast();
     }
@@ -80,6 +80,7 @@ bool openConfigurationDump(Workspace& ws, Context& ctx) {
     // Any text file is taken for a dump. The whole dump is read before either file is
     // written, so a dump chosen from the program's own folder survives its restoring.
     const RestoredFiles files = restoredFiles(readTextFile(*chosen).value_or(QString()));
+    keepBackup(ws.gConfigFile, ctx.clock.now());
     writeTextFile(ws.gConfigFile, files.workingFile);
     writeTextFile(ws.gLogFile, files.log);
     modLoadWorkspace(ws, ctx, QString());

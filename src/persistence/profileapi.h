@@ -13,6 +13,23 @@ class ProfileFile;
 inline constexpr int kKeyNamesBuffer = 8192;
 inline constexpr int kValueBuffer = 1024;
 
+// How many rows a section numbered from 1 holds at most with all their key names read back
+// through the buffer: each name takes its digits and a null, the list a last null.
+constexpr int numberedRowsThatFit(int buffer) {
+    int used = 1;
+    for (int row = 1;; ++row) {
+        int digits = 1;
+        for (int rest = row; rest >= 10; rest /= 10) {
+            ++digits;
+        }
+        used += digits + 1;
+        if (used > buffer) {
+            return row - 1;
+        }
+    }
+}
+inline constexpr int kMostRows = numberedRowsThatFit(kKeyNamesBuffer);
+
 // Fills keys[1..count] with the key names of the section in file order and returns count.
 // Names that overflow the buffer are left out; an empty or missing section gives 0.
 int modReadKeyNames(const ProfileFile& file, const QString& section, std::vector<QString>& keys);

@@ -32,12 +32,7 @@ QString unquoted(const QString& value) {
 }  // namespace
 
 ProfileFile::ProfileFile(const QString& text, QString path)
-    : path_(std::move(path)), lines_(text.split(QLatin1Char('\n'))) {
-    for (QString& line : lines_) {
-        if (line.endsWith(QLatin1Char('\r'))) {
-            line.chop(1);
-        }
-    }
+    : path_(std::move(path)), lines_(textLines(text)) {
     index();
 }
 

@@ -88,13 +88,9 @@ void writeMonthSections(Workspace& ws, Writer& out) {
     out.line(QString());
     out.section(QStringLiteral("Vacations"));
     long long number = 0;
-    for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
-        for (int day = 1; day <= days; ++day) {
-            if (ws.gVacation[agent][day] == 1) {
-                out.row(++number, joined({QString::number(agent), QString::number(day)}));
-                ws.gHasVacations = 1;
-            }
-        }
+    for (const auto& [agent, day] : vacationRows(ws)) {
+        out.row(++number, joined({QString::number(agent), QString::number(day)}));
+        ws.gHasVacations = 1;
     }
     out.line(QString());
 }
@@ -102,16 +98,10 @@ void writeMonthSections(Workspace& ws, Writer& out) {
 void writeRestrictions(Workspace& ws, Writer& out) {
     out.section(QStringLiteral("Restrictions"));
     long long number = 0;
-    for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
-        for (int weekday = 0; weekday < kWeekdays; ++weekday) {
-            for (int shift = 0; shift < kShiftSlots; ++shift) {
-                if (ws.gRestriction[agent][weekday][shift] == 1) {
-                    out.row(++number, joined({QString::number(agent), QString::number(weekday),
-                                              QString::number(shift)}));
-                    ws.gHasRestrictions = 1;
-                }
-            }
-        }
+    for (const auto& [agent, weekday, shift] : restrictionRows(ws)) {
+        out.row(++number,
+                joined({QString::number(agent), QString::number(weekday), QString::number(shift)}));
+        ws.gHasRestrictions = 1;
     }
     out.line(QString());
 }
@@ -343,6 +333,53 @@ int markDays(const ProfileValues& rows, std::span<int> flags, DayTexts& texts) {
         }
     }
     return rows.empty() ? 0 : 1;
+}
+
+std::vector<std::array<int, 2>> vacationRows(const Workspace& ws) {
+    std::vector<std::array<int, 2>> rows;
+    const int days = ws.currentMonthDays();
+    for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
+        for (int day = 1; day <= days; ++day) {
+            if (ws.gVacation[agent][day] == 1) {
+                rows.push_back({agent, day});
+            }
+        }
+    }
+    return rows;
+}
+
+std::vector<std::array<int, 3>> restrictionRows(const Workspace& ws) {
+    std::vector<std::array<int, 3>> rows;
+    for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
+        for (int weekday = 0; weekday < kWeekdays; ++weekday) {
+            for (int shift = 0; shift < kShiftSlots; ++shift) {
+                if (ws.gRestriction[agent][weekday][shift] == 1) {
+                    rows.push_back({agent, weekday, shift});
+                }
+            }
+        }
+    }
+    return rows;
+}
+
+std::vector<RowsNotRead> rowsNotRead(const Workspace& ws, const ProfileFile& file) {
+    QStringList sections = {QStringLiteral("Agents")};
+    for (int weekday = 0; weekday < kWeekdays; ++weekday) {
+        sections.append(shiftSection(ws, weekday));
+    }
+    sections +=
+        {QStringLiteral("Holidays"), QStringLiteral("Noted Days"), QStringLiteral("Vacations"),
+         QStringLiteral("Restrictions"), QStringLiteral("Schedule")};
+    std::vector<RowsNotRead> cut;
+    for (const QString& section : sections) {
+        std::vector<QString> keys;
+        const int read = modReadKeyNames(file, section, keys);
+        const auto held = static_cast<int>(file.keyNames(section).size());
+        if (held > read) {
+            cut.push_back({section, held, read});
+        }
+    }
+    return cut;
 }
 
 QString scheduleFileText(Workspace& ws, FileKind kind) {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <span>
+#include <vector>
 
 class ProfileFile;
 struct Workspace;
@@ -23,6 +24,22 @@ enum class FileKind {
 // The whole text of a file of the kind. Recomputes the four summary flags, which only rows
 // within the month's days set, and gPrinterFormat from the print boxes.
 QString scheduleFileText(Workspace& ws, FileKind kind);
+
+// The rows of [Vacations] as a file holds them, agent and day: each vacation day within the
+// month, agent by agent.
+std::vector<std::array<int, 2>> vacationRows(const Workspace& ws);
+// The rows of [Restrictions], agent, weekday and shift: each restriction, agent by agent.
+std::vector<std::array<int, 3>> restrictionRows(const Workspace& ws);
+
+// A section of a file that holds more rows than reading takes, since their key names do not
+// all fit the reader's buffer.
+struct RowsNotRead {
+    QString section;
+    int held;
+    int read;
+};
+// The sections of the file, of those read by their key names, whose rows were not all read.
+std::vector<RowsNotRead> rowsNotRead(const Workspace& ws, const ProfileFile& file);
 
 // What reading leaves to its caller.
 struct ReadResult {

@@ -7,9 +7,15 @@
 #include "core/services/textfile.h"
 #include "persistence/profileapi.h"
 #include "persistence/profilefile.h"
+#include "persistence/rowlimit.h"
 #include "persistence/scheduleformat.h"
 
 bool modSaveWorkspace(Workspace& ws, Context& ctx, const QString& path) {
+    // A file that reading would cut short is not written: the old one stays whole. The editors
+    // refuse every change that would come to this.
+    if (!readsBackWhole(ws)) {
+        return false;
+    }
     const FileKind kind = path.isEmpty() ? FileKind::Working : FileKind::Schedule;
     const QString text = scheduleFileText(ws, kind);
     modRegSetValue(ctx.registry, kHkeyLocalMachine, ws.gRegistryBase + QStringLiteral("\\Settings"),

@@ -7,8 +7,9 @@ struct Workspace;
 
 // Writes the whole Workspace to a schedule file, with its [Schedule] section, or, for an
 // empty path, to the working file gConfigFile without it, and notes the program's version
-// in the registry. A file that cannot be written keeps its old contents; the program tells
-// nobody, the headless tool reports the false this returns then.
+// in the registry. A file that cannot be written keeps its old contents, and so does one
+// whose rows reading would not take whole; the program tells nobody, the headless tool
+// reports the false this returns then.
 bool modSaveWorkspace(Workspace& ws, Context& ctx, const QString& path);
 
 // Reads a schedule file, or for an empty path the working file, into the Workspace. A

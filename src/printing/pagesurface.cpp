@@ -1,6 +1,6 @@
 #include "printing/pagesurface.h"
 
-#include <QRegularExpression>
+#include "core/services/textfile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,14 +13,6 @@ double roundedFontSize(double points) {
 }
 
 }  // namespace
-
-QStringList textLines(const QString& text) {
-    if (!text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r'))) {
-        return {text};
-    }
-    static const QRegularExpression lineFeed(QStringLiteral("\r\n|\n|\r"));
-    return text.split(lineFeed);
-}
 
 PageSurface::PageSurface(QString deviceName, QStringList fonts)
     : deviceName_(std::move(deviceName)), fonts_(std::move(fonts)) {}

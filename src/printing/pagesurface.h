@@ -88,6 +88,3 @@ private:
     double x_ = 0.0;
     double y_ = 0.0;
 };
-
-// The lines of a text, broken at its line feeds; a text without one is one line.
-QStringList textLines(const QString& text);

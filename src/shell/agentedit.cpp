@@ -6,6 +6,7 @@
 #include "core/services/log.h"
 #include "core/services/msgbox.h"
 #include "export/resolvename.h"
+#include "persistence/rowlimit.h"
 
 namespace {
 
@@ -74,7 +75,8 @@ void change(Workspace& ws, Context& ctx, const AgentEntry& entry, AgentEditResul
 }
 
 void add(Workspace& ws, Context& ctx, const AgentEntry& entry, AgentEditResult& result) {
-    if (missingName(ctx, entry, result)) {
+    if (!roomForRows(ctx, RowSection::Agents, ws.gAgentCount + 1) ||
+        missingName(ctx, entry, result)) {
         return;
     }
     modStatus(ws, ctx,

@@ -38,7 +38,8 @@ QString lookUpAddress(const Workspace& ws, Context& ctx, const AgentEntry& entry
 // The frame's OK, adding (gAgentEditMode 0) or changing the agent at list index
 // gAgentEditIndex (mode 1). Every OK counts as a change, also one that is refused. A
 // missing name, or a Yes to the capitals question, keeps the frame open; a name already in
-// the list is refused with a message and the frame closes as if the edit were done.
+// the list is refused with a message and the frame closes as if the edit were done, and so
+// is an agent more than the file can keep.
 AgentEditResult commitAgentEdit(Workspace& ws, Context& ctx, const AgentEntry& entry);
 
 // A command on one agent needs a list item chosen; without one the user is told so.

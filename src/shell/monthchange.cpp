@@ -3,14 +3,17 @@
 #include "core/model/calendar.h"
 #include "core/model/monthdata.h"
 #include "core/model/workspace.h"
+#include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
 #include "core/services/msgbox.h"
+#include "persistence/backupring.h"
 #include "persistence/workspacefile.h"
 
 bool changeMonth(Workspace& ws, Context& ctx, int barValue) {
-    if ((ws.gHasHolidays == 1 || ws.gHasNotedDays == 1 || ws.gHasVacations == 1 ||
-         ws.gScheduleGenerated == 1) &&
+    const bool monthHasData = ws.gHasHolidays == 1 || ws.gHasNotedDays == 1 ||
+                              ws.gHasVacations == 1 || ws.gScheduleGenerated == 1;
+    if (monthHasData &&
         msgBox(ctx.dialogs,
                QStringLiteral("Changing the date of the calendar will erase the schedule, as "
                               "well as all holidays, vacations, and notes.  Do you want to "
@@ -37,6 +40,11 @@ bool changeMonth(Workspace& ws, Context& ctx, int barValue) {
         }
     }
     modStatus(ws, ctx, QStringLiteral("Changing the present month to ") + ws.currentMonthAndYear());
+    // The month's days go from the working file too: the file as it held them stays in the
+    // ring.
+    if (monthHasData) {
+        keepBackup(ws.gConfigFile, ctx.clock.now());
+    }
     modSaveWorkspace(ws, ctx, QString());
     modSetupMonth(ws);
     return true;

@@ -4,9 +4,11 @@
 #include "core/model/calendar.h"
 #include "core/model/session.h"
 #include "core/model/workspace.h"
+#include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
 #include "environment/probe.h"
+#include "persistence/backupring.h"
 #include "persistence/storecheck.h"
 #include "persistence/workspacefile.h"
 #include "printing/printersetup.h"
@@ -23,6 +25,8 @@ std::unique_ptr<QLockFile> claimProgramDirectory(const QString& appPath, bool& o
 
 void prepareWorkspace(Workspace& ws, Context& ctx, const QString& commandLine) {
     modInitSession(ws, ctx.launch.home);
+    // The working file as the last run left it, before this run writes anything over it.
+    keepBackup(ws.gConfigFile, ctx.clock.now());
     modInitNameTables(ws);
     modMigrateOrCheckStore(ws, ctx);
     modProbeEnvironment(ws, ctx);

@@ -1,8 +1,11 @@
+#include "core/services/textfile.h"
 #include "fakes.h"
+#include "persistence/backupring.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -172,6 +175,10 @@ TEST_F(Cli, FailuresNameTheFileOnOneLine) {
     const Case cases[] = {
         {{QStringLiteral("keys"), missing}, missing, QStringLiteral("cannot be read")},
         {{QStringLiteral("keys"), work.path()}, work.path(), QStringLiteral("cannot be read")},
+        {{QStringLiteral("backups"), missing}, missing, QStringLiteral("is no folder")},
+        {{QStringLiteral("restore"), missing, work.path()},
+         missing,
+         QStringLiteral("cannot be read")},
         {{QStringLiteral("resave"), dko, nowhere}, nowhere, QStringLiteral("cannot be written")},
         {{QStringLiteral("print"), missing, QStringLiteral("--report"), QStringLiteral("grid"),
           QStringLiteral("--pdf"), nowhere},
@@ -219,3 +226,35 @@ TEST_F(Cli, PrintWritesAReportAsPdfFiles) {
 }
 
 }  // namespace
+
+// The ring keeps the newest copies, never the same one twice in a row. The tool lists them,
+// the newest first, and puts one back after keeping the file it replaces, but not while a
+// Desko runs in the folder.
+TEST_F(Cli, BackupsAreListedAndPutBack) {
+    const QString ini = work.filePath(QStringLiteral("Desko40.ini"));
+    QString office = QStringLiteral("[Agents]\r\n");
+    for (int agents = 1; agents <= kBackupsKept + 2; ++agents) {
+        office += QString::number(agents) + QStringLiteral("=A|a|\r\n");
+        writeTextFile(ini, office);
+        keepBackup(ini, QDateTime(QDate(2001, 1, 15), QTime(9, 0, agents)));
+        keepBackup(ini, QDateTime(QDate(2001, 1, 15), QTime(9, 0, agents)));
+    }
+    const Result listed = run({QStringLiteral("backups"), work.path()});
+    const QStringList lines = listed.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    EXPECT_EQ(lines.size(), kBackupsKept);
+    EXPECT_EQ(lines.first(), QStringLiteral("2001-01-15 09:00:32\t32 agents\t%1 bytes\t"
+                                            "Desko40-20010115-090032.ini")
+                                 .arg(office.size()));
+
+    const QStringList restore = {QStringLiteral("restore"),
+                                 QStringLiteral("Desko40-20010115-090003.ini"), work.path()};
+    {
+        QLockFile running(work.filePath(QStringLiteral("Desko40.lock")));
+        ASSERT_TRUE(running.lock());
+        EXPECT_EQ(run(restore).code, 1);
+    }
+    writeTextFile(ini, QStringLiteral("[Agents]\r\n"));
+    EXPECT_EQ(run(restore).code, 0);
+    EXPECT_EQ(fileText(ini).count(QStringLiteral("=A|a|")), 3);
+    EXPECT_EQ(fileText(listBackups(ini).front().path), QStringLiteral("[Agents]\r\n"));
+}

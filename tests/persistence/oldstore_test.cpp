@@ -13,23 +13,32 @@
 
 // An earlier version's store goes into the working file once and is removed. A store that
 // cannot be written stays, and is read only where there is no working file yet, so that a
-// later start cannot read it again over the user's work. A store of this version, with its
-// one key, is left alone.
+// later start cannot read it again over the user's work; so does one whose office could not
+// be written into a working file. A store of this version, with its one key and maybe the key
+// of a rights check that never ended, is left alone, and so is a file that cannot be a store.
 TEST(OldStore, MovesIntoTheWorkingFileOnce) {
+    const QString version = QStringLiteral("[Settings]\nVersion=4.0.10\n");
     const struct {
         QString store;
         bool readOnly;
         bool workingFile;
         bool moved;
         qsizetype keysLeft;
+        bool homeMissing = false;
+        bool unreadable = false;
     } cases[] = {
         {golden("oldstore.conf"), false, false, true, 0},
         {golden("oldstore.conf"), true, false, true, 9},
         {golden("oldstore.conf"), true, true, false, 9},
-        {QStringLiteral("[Settings]\nVersion=4.0.10\n"), false, false, false, 1},
+        {golden("oldstore.conf"), false, false, false, 9, true},
+        {version, false, false, false, 1},
+        {version + QStringLiteral("[Test]\nTest=Test\n"), false, false, false, 2},
+        {golden("oldstore.conf") + QString(1 << 20, QLatin1Char(';')), false, true, false, 0, false,
+         true},
+        {golden("oldstore.conf") + QChar(0), false, true, false, 0, false, true},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.readOnly << c.workingFile);
+        SCOPED_TRACE(testing::Message() << c.readOnly << c.workingFile << c.store.size());
         QTemporaryDir home;
         QTemporaryDir settings;
         const QString storeFile = settings.filePath(QStringLiteral("store.conf"));
@@ -41,7 +50,7 @@ TEST(OldStore, MovesIntoTheWorkingFileOnce) {
         TestServices s;
         Context ctx{s.clock, s.dialogs, store, {}, {}, {}};
         Workspace ws;
-        modInitSession(ws, home.path());
+        modInitSession(ws, c.homeMissing ? home.filePath(QStringLiteral("gone")) : home.path());
         modInitNameTables(ws);
         const QString before = golden("office.ini");
         if (c.workingFile) {
@@ -58,6 +67,12 @@ TEST(OldStore, MovesIntoTheWorkingFileOnce) {
         EXPECT_EQ(s.dialogs.shown.size(), c.moved || c.workingFile ? 0U : 1U);
         EXPECT_EQ(SettingsRegistryStore(storeFile, kRegistryBase).keyNames(kRegistryBase).size(),
                   c.keysLeft);
+        EXPECT_EQ(logged(ws, QStringLiteral("Settings store at ") + storeFile +
+                                 QStringLiteral(" cannot be read--leaving it untouched")),
+                  c.unreadable);
+        if (c.unreadable) {
+            EXPECT_EQ(fileText(storeFile), c.store);
+        }
         if (!c.moved) {
             continue;
         }

@@ -180,12 +180,16 @@ void frmHolidays::cmbAgent_Click() {
     if (switchVacationAgent(ws_, ctx_, cmbAgent->currentIndex(), picks())) {
         fraMonth->setTitle(dayPickerCaption(ws_));
         showDays();
+    } else if (ws_.hasAgent(ws_.gDayPickerAgent)) {
+        // A refused turn leaves the agent on show, with the picks as they are.
+        cmbAgent->setCurrentIndex(ws_.gDayPickerAgent - 1);
     }
 }
 
 void frmHolidays::cmdOK_Click() {
-    savePickedDays(ws_, ctx_, picks());
-    unload();
+    if (savePickedDays(ws_, ctx_, picks())) {
+        unload();
+    }
 }
 
 // The names given to days at their click are in the workspace already; reading the working

@@ -131,12 +131,16 @@ RestrictionBoxes frmRestrictions::boxes() const {
 void frmRestrictions::cmbAgents_Click() {
     if (switchRestrictionAgent(ws_, ctx_, cmbAgents->currentIndex(), boxes())) {
         showBoxes();
+    } else if (ws_.hasAgent(ws_.gRestrictionAgent)) {
+        // A refused turn leaves the agent on show, with the boxes as they are.
+        cmbAgents->setCurrentIndex(ws_.gRestrictionAgent - 1);
     }
 }
 
 void frmRestrictions::cmdOK_Click() {
-    saveRestrictions(ws_, ctx_, boxes());
-    unload();
+    if (saveRestrictions(ws_, ctx_, boxes())) {
+        unload();
+    }
 }
 
 void frmRestrictions::cmdCancel_Click() {

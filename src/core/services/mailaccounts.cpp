@@ -73,12 +73,11 @@ const MailAccount* accountNamed(const std::vector<MailAccount>& accounts, const 
 }  // namespace
 
 MailConfig parseMailConfig(const QString& text) {
-    static const QRegularExpression lineBreak(QStringLiteral("\r\n|\r|\n"));
     MailConfig config;
     MailAccount defaults;
     MailAccount discarded;  // what stands under a line that opens no account
     MailAccount* current = &defaults;
-    for (const QString& raw : text.split(lineBreak)) {
+    for (const QString& raw : textLines(text)) {
         const QString line = raw.trimmed();
         if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
             continue;

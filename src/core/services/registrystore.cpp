@@ -2,8 +2,11 @@
 
 #include "core/services/textfile.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
+#include <QStringDecoder>
 
 namespace {
 
@@ -28,6 +31,25 @@ QString textOf(const QVariant& value) {
     return value.typeId() == QMetaType::QStringList
                ? value.toStringList().join(QStringLiteral(", "))
                : value.toString();
+}
+
+// The settings of a file, or none for a file that cannot be a store of settings: one far
+// larger than a store grows, which would take long to read, or one that is no text.
+std::unique_ptr<QSettings> settingsIn(const QString& path) {
+    QFile file(path);
+    if (file.exists()) {
+        if (file.size() > SettingsRegistryStore::kLargestSettingsFile ||
+            !file.open(QIODevice::ReadOnly)) {
+            return nullptr;
+        }
+        const QByteArray bytes = file.readAll();
+        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+        utf8.decode(bytes);
+        if (bytes.contains('\0') || utf8.hasError()) {
+            return nullptr;
+        }
+    }
+    return std::make_unique<QSettings>(path, QSettings::IniFormat);
 }
 
 }  // namespace
@@ -90,7 +112,7 @@ void MemoryRegistryStore::deleteValue(const QString& key, const QString& name) {
 }
 
 SettingsRegistryStore::SettingsRegistryStore(const QString& path, const QString& base)
-    : SettingsRegistryStore(std::make_unique<QSettings>(path, QSettings::IniFormat), base, true) {}
+    : SettingsRegistryStore(settingsIn(path), base, path) {}
 
 std::unique_ptr<SettingsRegistryStore> SettingsRegistryStore::native(const QString& base) {
     const QStringList parts = partsOf(base);
@@ -99,24 +121,30 @@ std::unique_ptr<SettingsRegistryStore> SettingsRegistryStore::native(const QStri
 #ifdef Q_OS_WIN
     auto settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::SystemScope,
                                                 organisation, application);
-    const bool inFile = false;
-#else
-    auto settings = std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
-                                                organisation, application);
-    const bool inFile = true;
-#endif
     return std::unique_ptr<SettingsRegistryStore>(
-        new SettingsRegistryStore(std::move(settings), base, inFile));
+        new SettingsRegistryStore(std::move(settings), base, QString()));
+#else
+    // The file that the user's native settings of that name are kept in. Named here, so that
+    // it is looked at before anything reads it.
+    return std::make_unique<SettingsRegistryStore>(
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1Char('/') +
+            organisation + QLatin1Char('/') + application + QStringLiteral(".conf"),
+        base);
+#endif
 }
 
 SettingsRegistryStore::SettingsRegistryStore(std::unique_ptr<QSettings> settings,
-                                             const QString& base, bool inFile)
-    : settings_(std::move(settings)), base_(base), inFile_(inFile) {
+                                             const QString& base, const QString& file)
+    : settings_(std::move(settings)), base_(base), file_(file) {
+    // A file that cannot be read whole, or is not read at all, is left as it is: nothing of it
+    // is taken for a store of an earlier version, and nothing is written over it.
+    damaged_ = !settings_;
+    if (damaged_) {
+        return;
+    }
     // Only this file counts: a store that other scopes lent values to could never be emptied.
     settings_->setFallbacksEnabled(false);
     const QStringList paths = settings_->allKeys();
-    // A file that cannot be read whole is left as it is: nothing of it is taken for a store
-    // of an earlier version, and nothing is written over it.
     damaged_ = settings_->status() == QSettings::FormatError;
     for (const QString& path : damaged_ ? QStringList() : paths) {
         QStringList parts = path.split(QLatin1Char('/'));
@@ -203,15 +231,19 @@ bool SettingsRegistryStore::writable() const {
     if (damaged_) {
         return false;
     }
-    if (!inFile_) {
+    if (file_.isEmpty()) {
         return true;  // the registry tells by failing
     }
     // The settings are written to a new file beside the old one, which then takes its place;
     // a missing folder is made, below the nearest one that is there.
-    const QString file = settings_->fileName();
+    const QString& file = file_;
     QFileInfo folder(QFileInfo(file).absolutePath());
     while (!folder.exists() && !folder.isRoot()) {
         folder = QFileInfo(folder.absolutePath());
     }
     return !isReadOnlyFile(file) && folder.isDir() && !isReadOnlyDirectory(folder.filePath());
+}
+
+QString SettingsRegistryStore::unreadableFile() const {
+    return damaged_ ? file_ : QString();
 }

@@ -30,6 +30,9 @@ public:
     virtual void flush() = 0;
     // Whether changes can be stored at all.
     virtual bool writable() const = 0;
+    // The file of a store that could not be read as one and is left as it is; the empty text
+    // for a store that was read.
+    virtual QString unreadableFile() const { return QString(); }
 };
 
 // A store that lives as long as the process: for runs that must leave nothing behind.
@@ -58,9 +61,12 @@ private:
 
 // A store kept by QSettings: the tree below one base key, in a settings file of its own or,
 // on Windows, in the registry itself. Its contents are read once, when it is opened. A file
-// that cannot be read whole counts as empty, and cannot be written.
+// that cannot be read whole, one of more than kLargestSettingsFile bytes and one that is no
+// text count as empty, and cannot be written.
 class SettingsRegistryStore final : public RegistryStore {
 public:
+    static constexpr qint64 kLargestSettingsFile = 1024 * 1024;
+
     // The settings file at path, in the portable INI format.
     SettingsRegistryStore(const QString& path, const QString& base);
     // The program's store, in the platform's own format: the registry's machine branch on
@@ -78,15 +84,19 @@ public:
     void deleteValue(const QString& key, const QString& name) override;
     void flush() override;
     bool writable() const override;
+    QString unreadableFile() const override;
 
 private:
-    SettingsRegistryStore(std::unique_ptr<QSettings> settings, const QString& base, bool inFile);
+    // A store in the file, or for an empty file name in the registry; no settings for a file
+    // that is left unread.
+    SettingsRegistryStore(std::unique_ptr<QSettings> settings, const QString& base,
+                          const QString& file);
     // The settings' path of a key, or of a key's value; nothing for a key outside the base.
     std::optional<QString> pathOf(const QString& key, const QString& name = QString()) const;
 
     std::unique_ptr<QSettings> settings_;
     QString base_;
-    bool inFile_;
+    QString file_;
     bool damaged_ = false;
     // What the settings hold, for quick reading and listing.
     MemoryRegistryStore contents_;

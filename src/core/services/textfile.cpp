@@ -37,9 +37,33 @@ bool isReadOnly(const QFileInfo& info) {
 }  // namespace
 
 QString decodeText(const QByteArray& bytes) {
+    // Only a byte order mark tells the wider encodings; their decoders drop it.
+    if (const std::optional<QStringConverter::Encoding> marked =
+            QStringConverter::encodingForData(bytes);
+        marked && *marked != QStringConverter::Utf8) {
+        return QStringDecoder(*marked).decode(bytes);
+    }
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = utf8.decode(bytes);  // a byte order mark is dropped
     return utf8.hasError() ? decodeCp1252(bytes) : text;
+}
+
+QStringList textLines(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c != QLatin1Char('\r') && c != QLatin1Char('\n')) {
+            continue;
+        }
+        lines.append(text.mid(start, i - start));
+        if (c == QLatin1Char('\r') && i + 1 < text.size() && text[i + 1] == QLatin1Char('\n')) {
+            ++i;
+        }
+        start = i + 1;
+    }
+    lines.append(text.mid(start));
+    return lines;
 }
 
 std::optional<QString> readTextFile(const QString& path) {
@@ -60,6 +84,10 @@ bool isReadOnlyDirectory(const QString& path) {
 }
 
 bool writeTextFile(const QString& path, const QString& text) {
+    return writeFileBytes(path, text.toUtf8());
+}
+
+bool writeFileBytes(const QString& path, const QByteArray& bytes) {
     const QFileInfo info(path);
     if (path.isEmpty() || info.isDir() || isReadOnlyFile(path) ||
         isReadOnlyDirectory(info.absolutePath())) {
@@ -70,6 +98,6 @@ bool writeTextFile(const QString& path, const QString& text) {
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    file.write(text.toUtf8());
+    file.write(bytes);
     return file.commit();
 }
