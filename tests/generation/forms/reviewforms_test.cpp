@@ -109,7 +109,7 @@ TEST(ReviewForm, HolidaysAreNamedAndCellsThatDoNotFitSaySo) {
     r.ws.gHoliday[1] = 1;
     r.ws.gHolidayName[1] = QStringLiteral("New Year's Day");
     r.ws.gNoted[11] = 1;
-    r.ws.gNotedText[11] = QStringLiteral("A note far longer than any cell of the calendar is");
+    r.ws.gNotedText[11] = QStringLiteral("A-note-with-no-place-to-break-that-is-wider-than-any-cell");
     frmWholeCalendar* review = r.show(0);
     QTest::mouseClick(r.cell(1), Qt::LeftButton);
     QTest::mouseClick(review->labNumber[kFirstCell], Qt::LeftButton);
