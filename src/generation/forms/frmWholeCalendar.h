@@ -4,9 +4,12 @@
 
 #include <array>
 
+class DayCell;
 class ElidedLabel;
 class FaceWindow;
+class MonthCells;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 class frmIndividualDay;
@@ -43,7 +46,7 @@ public:
     // Closes the review and gives the main window back its normal face.
     void cmdOK_Click();
 
-    // The day editor, once a day has been opened.
+    // The day editor, which takes the review's place while a day is open.
     frmIndividualDay* dayEditor() const { return dayEditor_; }
 
     std::array<QLabel*, 7> labDayName;
@@ -66,8 +69,8 @@ private:
     Workspace& ws_;
     Context& ctx_;
     MainForm& main_;
-    FaceWindow& window_;
-    // Made when a day is first opened: it is smaller than the review, so the window's size
-    // does not wait for it, and the start does not pay for its lists.
-    frmIndividualDay* dayEditor_ = nullptr;
+    QGridLayout* grid_;
+    std::array<DayCell*, kCells> cells_;
+    MonthCells* days_;
+    frmIndividualDay* dayEditor_;
 };
