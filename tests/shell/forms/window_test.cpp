@@ -1,11 +1,13 @@
 #include "constraints/forms/frmHolidays.h"
 #include "core/forms/elidedlabel.h"
 #include "core/model/agentkeys.h"
+#include "core/services/textfile.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "mainwindow.h"
 #include "offices.h"
 #include "persistence/workspacefile.h"
+#include "shell/forms/windowkeeper.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -177,6 +179,50 @@ TEST(Window, EveryFaceIsLaidOutOverTheWholeWindow) {
     settle();
     for (const ElidedLabel* cell : w.main->review()->labDay) {
         EXPECT_FALSE(cell->isCut()) << cell->text().toStdString();
+    }
+}
+
+// The window shows again where it was left, maximised or not; a place that lies on no screen
+// any more, or a file that says nothing whole, leaves the window in the middle of the screen.
+TEST(Window, TheWindowComesBackAsItWasLeft) {
+    const QTemporaryDir state;
+    const QString file = state.filePath(QStringLiteral("desko/window.ini"));
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    QRect placed;
+    {
+        Example w;
+        placed = QRect(QPoint(10, 60), w.window->minimumSize() + QSize(20, 30));
+        w.window->setGeometry(placed);
+        keepWindowPlace(*w.window, file);
+    }
+    FaceWindow back;
+    showWindowAsLeft(back, file);
+    EXPECT_EQ(back.geometry(), placed);
+    back.showMaximized();
+    keepWindowPlace(back, file);
+    FaceWindow maximised;
+    showWindowAsLeft(maximised, file);
+    EXPECT_TRUE(maximised.isMaximized());
+    EXPECT_TRUE(fileText(file).contains(QStringLiteral("Width=%1\r\nHeight=%2\r\nMaximized=1")
+                                            .arg(placed.width())
+                                            .arg(placed.height())));
+
+    const struct {
+        const char* text;
+        QPoint middle;
+    } cases[] = {
+        {"[Window]\nLeft=3000\nTop=2000\nWidth=900\nHeight=650\n", area.center()},
+        {"[Window]\nLeft=40\nTop=x\nWidth=900\nHeight=650\n", QPoint(300, 200)},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        writeTextFile(file, QString::fromLatin1(c.text));
+        FaceWindow window;
+        window.setGeometry(
+            QRect(QPoint(), QSize(600, 400)).translated(c.middle - QPoint(300, 200)));
+        showWindowAsLeft(window, file);
+        EXPECT_LE((window.geometry().center() - c.middle).manhattanLength(), 40);
+        EXPECT_FALSE(window.isMaximized());
     }
 }
 
