@@ -12,7 +12,8 @@ void exportToEmail(Workspace& ws, Context& ctx, ExportView& view, MailSession& s
     modStatus(ws, ctx, QStringLiteral("Exporting the schedule to e-mail"));
     view.showStatus(QStringLiteral("Exporting the schedule to e-mail . . ."));
     ws.gExportResults.clear();
-    for (int agent = 1; agent <= ws.gAgentCount; ++agent) {
+    // Events run before each mail, so that the window lives while a slow server answers.
+    for (int agent = 1; agent <= ws.gAgentCount && ctx.events.doEvents(); ++agent) {
         const QString body = agentMailBody(ws, agent);
         if (!ws.gAgentEmail[agent].isEmpty()) {
             modSendMail(ws, ctx, session, ws.gExportResults,

@@ -24,15 +24,15 @@ void cmdExport(Workspace& ws, Context& ctx, ExportView& view, MailSession& sessi
     Surface* printer = ctx.printers != nullptr ? &ctx.printers->printer() : nullptr;
     const int orientation = printer != nullptr ? printer->Orientation() : 0;
     blankLeaveEmptyCells(ws);
-    view.doEvents();
-    // The boxes are read again: the pre-flight may have unticked some.
-    if (exportBoxTicked(ws, kEmailBox)) {
+    // Each channel after pending events, and none once the program is ending. The boxes are
+    // read again: the pre-flight may have unticked some.
+    if (ctx.events.doEvents() && exportBoxTicked(ws, kEmailBox)) {
         exportToEmail(ws, ctx, view, session);
     }
-    if (exportBoxTicked(ws, kOutlookBox)) {
+    if (ctx.events.doEvents() && exportBoxTicked(ws, kOutlookBox)) {
         exportToOutlook(ws, ctx, view, session);
     }
-    if (exportBoxTicked(ws, kCreatorBox)) {
+    if (ctx.events.doEvents() && exportBoxTicked(ws, kCreatorBox)) {
         exportToCalendarCreator(ws, ctx, view, plan->creatorFile);
     }
     restoreLeaveEmptyCells(ws);

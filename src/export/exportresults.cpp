@@ -23,8 +23,9 @@ QString failureBracket(const SendFailure& failure) {
 }
 
 void offerResults(Context& ctx, const QString& results, const QString& question) {
-    if (results.isEmpty() || msgBox(ctx.dialogs, question, MsgIcon::Exclamation, MsgButtons::YesNo,
-                                    1) != MsgAnswer::Yes) {
+    if (results.isEmpty() || ctx.events.ending() ||
+        msgBox(ctx.dialogs, question, MsgIcon::Exclamation, MsgButtons::YesNo, 1) !=
+            MsgAnswer::Yes) {
         return;
     }
     msgBox(ctx.dialogs, results, MsgIcon::Information, MsgButtons::OK);

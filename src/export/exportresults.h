@@ -18,5 +18,5 @@ bool addResultOnce(QString& results, const QString& key, const QString& line);
 QString failureBracket(const SendFailure& failure);
 
 // At the end of a channel with failures: the channel's question, and on Yes the results in a
-// box of their own.
+// box of their own. Once the program is ending, nothing is asked.
 void offerResults(Context& ctx, const QString& results, const QString& question);

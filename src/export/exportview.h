@@ -20,8 +20,6 @@ public:
     // The share of the bar that is filled; a share above 1 fills it and no more.
     virtual void showProgress(double share) = 0;
     virtual void hideProgressBar() = 0;
-    // Lets pending events run, so that the screen keeps up.
-    virtual void doEvents() = 0;
     // The month back in the status frame's place, the window's normal face rebuilt from the
     // Workspace, and the normal pointer.
     virtual void endExport() = 0;
@@ -36,6 +34,5 @@ public:
     void showProgressBar(const QString&) override {}
     void showProgress(double) override {}
     void hideProgressBar() override {}
-    void doEvents() override {}
     void endExport() override {}
 };

@@ -76,7 +76,7 @@ void OutlookChannel::run() {
     const QString firstAddress = ws_.gAgentCount >= 1 ? ws_.gAgentEmail[1] : QString();
     requests_.build(
         {QString(), session_.sender(), firstAddress, QDate(2035, 1, 1), 60, 120, {}, {}});
-    view_.doEvents();
+    ctx_.events.doEvents();
     // done counts on over all agents, so the bar is full after the first agent's pass.
     done_ = 1;
     for (int agent = 1; agent <= ws_.gAgentCount; ++agent) {
@@ -100,6 +100,9 @@ void OutlookChannel::run() {
 }
 
 void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift) {
+    if (!ctx_.events.doEvents()) {
+        return;
+    }
     const ShiftTimes& times = times_[weekday][shift];
     if (!times.ok) {
         const QString line = uninterpretedShiftLine(ws_, weekday, shift);

@@ -20,7 +20,8 @@ struct SmartRandomProgress {
 };
 
 // Engine 0: scores every agent for each position and takes the lowest, then evens out
-// weekend duty. Expects gSchedule erased; leaves gSelectedAgent at 0.
+// weekend duty. Expects gSchedule erased; leaves gSelectedAgent at 0. Events run after each
+// position, and the engine stops there once the program is ending.
 void modGenerateSmartRandom(Workspace& ws, Context& ctx, const SmartRandomProgress& progress = {});
 
 // Engine 1: deals the agents like a shuffled deck. Erases gSchedule itself. drawCounter is

@@ -85,6 +85,7 @@ bool prepareGenerate(Workspace& ws, Context& ctx, int listIndex) {
 
 void runEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress,
                std::optional<int> serialCursor) {
+    const auto replaced = ws.gSchedule;
     std::fill(ws.gSchedule.begin(), ws.gSchedule.end(), QString());
     switch (ws.gEngine) {
         case kEngineSmartRandom:
@@ -107,5 +108,9 @@ void runEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress,
         }
         default:
             break;
+    }
+    // A deal cut short by the program's end leaves no half of a schedule behind.
+    if (ctx.events.ending()) {
+        ws.gSchedule = replaced;
     }
 }

@@ -25,6 +25,7 @@ int busiestWeekdayPositions(const Workspace& ws);
 bool prepareGenerate(Workspace& ws, Context& ctx, int listIndex);
 
 // Erases the schedule and runs the engine of gEngine. A serial engine starts after the
-// agent drawn at random, or after serialCursor when one is given.
+// agent drawn at random, or after serialCursor when one is given. An engine that stops
+// because the program is ending leaves the schedule as it was before.
 void runEngine(Workspace& ws, Context& ctx, const SmartRandomProgress& progress = {},
                std::optional<int> serialCursor = std::nullopt);

@@ -382,6 +382,9 @@ void sweep(Workspace& ws, Context& ctx, Grid& grid, const Preparation& p,
                     progress.placed(chosen,
                                     1 - static_cast<double>(p.positions - done) / p.positions);
                 }
+                if (!ctx.events.doEvents()) {
+                    return;
+                }
             }
         }
     }
@@ -633,8 +636,14 @@ void modGenerateSmartRandom(Workspace& ws, Context& ctx, const SmartRandomProgre
     Grid grid(ws);
     const Preparation p = prepare(ws, grid);
     sweep(ws, ctx, grid, p, progress);
+    if (ctx.events.ending()) {
+        return;
+    }
     if (progress.repairing) {
         progress.repairing();
+    }
+    if (!ctx.events.doEvents()) {
+        return;
     }
     repair(ws, grid, p, progress);
     ws.gSelectedAgent = 0;

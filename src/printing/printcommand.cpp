@@ -55,18 +55,18 @@ void printSchedule(Workspace& ws, Context& ctx, PrintView& view) {
     view.beginPrinting(QStringLiteral("Printing the schedule . . ."));
     ws.gExportResults.clear();
     blankLeaveEmptyCells(ws);
-    view.doEvents();
     // Without a printer every report is passed over, as a printer that fails each call is.
+    // Each report comes after pending events, and none once the program is ending.
     if (ctx.printers != nullptr) {
         Surface& printer = ctx.printers->printer();
         const int savedOrientation = printer.Orientation();
-        if (ws.chkPrint[0] == 1) {
+        if (ctx.events.doEvents() && ws.chkPrint[0] == 1) {
             printFullCalendar(ws, ctx, view, printer);
         }
-        if (ws.chkPrint[1] == 1) {
+        if (ctx.events.doEvents() && ws.chkPrint[1] == 1) {
             printOfficeGrid(ws, ctx, view, printer);
         }
-        if (ws.chkPrint[2] == 1) {
+        if (ctx.events.doEvents() && ws.chkPrint[2] == 1) {
             printTearsheetReport(ws, ctx, view, printer);
         }
         printer.EndDoc();

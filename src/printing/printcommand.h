@@ -12,7 +12,8 @@ struct Workspace;
 // is on, prints the full calendar, the office grid and the tearsheet, as the boxes say, in
 // that order, on the current printer. For the time of the command the slots the user wants
 // left empty hold ten blanks, which print as nothing; afterwards every slot of ten blanks
-// says "Leave empty" again, and the printer has its orientation back.
+// says "Leave empty" again, and the printer has its orientation back. Once the program is
+// ending, no further report or copy begins.
 void printSchedule(Workspace& ws, Context& ctx, PrintView& view);
 
 // Lights only the print or export box at position 1 to 6, as gPrinterFormat counts them,

@@ -63,8 +63,7 @@ void printCopies(Workspace& ws, Context& ctx, PrintView& view, const QString& st
     } else if (asked >= 1) {
         count = static_cast<int>(asked);
     }
-    for (int copy = 1; copy <= count; ++copy) {
-        view.doEvents();
+    for (int copy = 1; copy <= count && ctx.events.doEvents(); ++copy) {
         printCopy();
     }
 }

@@ -29,7 +29,7 @@ inline constexpr int kMostCopies = 99;
 
 // The frame of a report with copies: the status line, the window's status, the setting of
 // copies repaired (a setting that reads as no number becomes "1", and stays so), then the
-// copies, each after pending events. More copies than kMostCopies print kMostCopies, after a
-// message that names the report as `report`.
+// copies, each after pending events, until the program is ending. More copies than kMostCopies
+// print kMostCopies, after a message that names the report as `report`.
 void printCopies(Workspace& ws, Context& ctx, PrintView& view, const QString& status,
                  const QString& report, QString& copies, const std::function<void()>& printCopy);

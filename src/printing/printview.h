@@ -12,8 +12,6 @@ public:
     virtual void beginPrinting(const QString& status) = 0;
     // The status of the report being printed.
     virtual void showPrintStatus(const QString& status) = 0;
-    // Lets pending events run.
-    virtual void doEvents() = 0;
     // The month comes back in the status's place, and the window's normal face.
     virtual void endPrinting() = 0;
 };
@@ -23,6 +21,5 @@ class NoPrintView final : public PrintView {
 public:
     void beginPrinting(const QString&) override {}
     void showPrintStatus(const QString&) override {}
-    void doEvents() override {}
     void endPrinting() override {}
 };

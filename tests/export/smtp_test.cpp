@@ -4,6 +4,7 @@
 
 #include "core/services/textfile.h"
 #include "fakes.h"
+#include "mailserver.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -18,24 +19,6 @@
 namespace {
 
 const QString kSubject = QStringLiteral("Расписание · 一月 2027 — a subject long enough to fold");
-
-// The server with the options given, for as long as the object lives; its port.
-struct MailServer {
-    MailServer(const QString& file, const QStringList& options) {
-        QFile::remove(file);
-        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        process.start(QStringLiteral("/usr/bin/python3"),
-                      QStringList{QStringLiteral(DESKO_SMTP_SERVER), file} + options);
-        EXPECT_TRUE(process.waitForReadyRead(30000));
-        port = process.readLine().trimmed().toInt();
-    }
-    ~MailServer() {
-        process.closeWriteChannel();
-        process.waitForFinished(10000);
-    }
-    QProcess process;
-    int port = 0;
-};
 
 class MailExport : public ::testing::Test {
 protected:

@@ -1,14 +1,15 @@
 # A mail server on 127.0.0.1 for the export's tests, on Debian's aiosmtpd.
 #
 # usage: smtpserver.py FILE [--tls CERT KEY] [--login USER PASSWORD] [--refuse ADDRESS]
-#                           [--drop-at N] [--silent]
+#                           [--drop-at N] [--silent] [--delay SECONDS]
 #
 # Prints its port once it listens, and serves until its standard input closes. Each message it
 # takes is a line of JSON in FILE: the envelope, the headers as a reader decodes them, the
 # plain text, and the calendar request as python3-icalendar reads it. --tls requires STARTTLS,
 # --login that login; --refuse answers 550 to that recipient, --drop-at cuts the connection
-# during the Nth message, and --silent never says a word.
-import argparse, email.policy, json, logging, select, socket, ssl, sys
+# during the Nth message, --silent never says a word, and --delay answers each message that
+# many seconds after it came.
+import argparse, asyncio, email.policy, json, logging, select, socket, ssl, sys
 
 import icalendar
 from aiosmtpd.controller import Controller
@@ -51,6 +52,7 @@ class Handler:
                 received["calendar"] = calendar_of(part)
         with open(self.options.file, "a", encoding="utf-8") as file:
             file.write(json.dumps(received) + "\n")
+        await asyncio.sleep(self.options.delay)
         return "250 OK"
 
 
@@ -74,6 +76,7 @@ def main():
     parser.add_argument("--refuse")
     parser.add_argument("--drop-at", type=int, default=0)
     parser.add_argument("--silent", action="store_true")
+    parser.add_argument("--delay", type=float, default=0)
     options = parser.parse_args()
     if options.silent:
         return serve_silently()

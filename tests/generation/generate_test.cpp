@@ -151,3 +151,28 @@ TEST(Generate, RunsTheEngineOnAnErasedSchedule) {
     EXPECT_EQ(office.ws.gBaseAgent, 6);
     EXPECT_EQ(office.ws.schedule(3, 1, 0), QStringLiteral("Agent007"));
 }
+
+// The window closed during the SmartRandom deal, after a position or before the weekend
+// repair: the engine stops there, logs nothing more, and the schedule it was to replace is
+// back. A deal that nobody stops yields after each of its 25 positions and once more.
+TEST(Generate, TheProgramsEndLeavesTheScheduleItWasToReplace) {
+    for (const int closeAt : {3, 26, 0}) {
+        SCOPED_TRACE(closeAt);
+        Office office(10, 5);
+        Events& events = office.s.ctx.events;
+        office.ws.gEngine = kEngineSmartRandom;
+        fillWithOldSchedule(office.ws);
+        const std::vector<QString> old = office.ws.gSchedule;
+        int yields = 0;
+        events.run = [&] {
+            if (++yields == closeAt) {
+                events.putOffClose();
+            }
+        };
+        EXPECT_EQ(events.runCommand([&] { runEngine(office.ws, office.s.ctx); }), closeAt > 0);
+        EXPECT_EQ(yields, closeAt > 0 ? closeAt : 26);
+        EXPECT_EQ(office.ws.gSchedule == old, closeAt > 0);
+        EXPECT_TRUE(fileText(office.ws.gLogFile)
+                        .endsWith(u"Generating a schedule using the SmartRandom schedule\r\n"));
+    }
+}

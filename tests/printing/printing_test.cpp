@@ -28,7 +28,6 @@ public:
     void showPrintStatus(const QString& status) override {
         asked.append(QStringLiteral("status: ") + status);
     }
-    void doEvents() override {}
     void endPrinting() override { asked.append(QStringLiteral("normal")); }
 };
 
@@ -72,6 +71,35 @@ TEST(PrintCommand, LeaveEmptyPrintsAsBlanksAndComesBack) {
                                    "status: Printing the full calendar . . .", "normal"}));
     EXPECT_TRUE(logged(o.ws, QStringLiteral("Printing the schedule for January")));
     EXPECT_EQ(o.printers.calls.last(), QStringLiteral("Orientation = 1"));
+}
+
+// The window closed during the command's first to sixth yield: no report and no copy begins
+// after it, the "Leave empty" cell is back when the command returns, for the close to save,
+// and the close is then taken. Events run before each report and each copy.
+TEST(PrintCommand, StopsAtTheYieldDuringWhichTheWindowClosed) {
+    const char* const lastLines[] = {"schedule for January", "full calendar", "full calendar",
+                                     "full calendar",        "office grid",   "office grid"};
+    const int documents[] = {0, 0, 1, 2, 2, 3, 4};  // two copies of the calendar, a tearsheet
+    for (int closeAt = 1; closeAt <= 7; ++closeAt) {
+        SCOPED_TRACE(closeAt);
+        Office o;
+        o.ws.gCalendarCopies = QStringLiteral("2");
+        o.ws.schedule(4, 1, 0) = leaveEmptyText();
+        int yields = 0;
+        o.s.ctx.events.run = [&] {
+            if (++yields == closeAt) {
+                o.s.ctx.events.putOffClose();
+            }
+        };
+        EXPECT_EQ(o.s.ctx.events.runCommand([&] { o.print({1, 1, 1}); }), closeAt < 7);
+        EXPECT_EQ(yields, std::min(closeAt, 6));
+        EXPECT_EQ(o.documents(), documents[closeAt - 1]);
+        EXPECT_EQ(o.ws.schedule(4, 1, 0), leaveEmptyText());
+        EXPECT_EQ(o.view.asked.last(), QStringLiteral("normal"));
+        const QString lastLine = fileText(o.ws.gLogFile).section(QStringLiteral("\r\n"), -2, -2);
+        EXPECT_TRUE(
+            lastLine.endsWith(QLatin1String(closeAt < 7 ? lastLines[closeAt - 1] : "tearsheet")));
+    }
 }
 
 // The boxes choose the reports, in a fixed order; copies are repaired, counted and capped.

@@ -89,7 +89,6 @@ void frmHolidays::Form_Load() {
     setEnabledAll({cmdOK, cmdCancel}, true);
     labMonth->setText(ws_.currentMonthAndYear());
     fraMonth->setTitle(dayPickerCaption(ws_));
-    fraMonth->setAccessibleName(fraMonth->title());
     const bool vacations = ws_.gDayPickerMode == kPickVacations;
     cmbAgent->clear();
     cmbAgent->setVisible(vacations);
@@ -170,7 +169,6 @@ void frmHolidays::labDay_MouseDown(int index) {
 void frmHolidays::cmbAgent_Click() {
     if (switchVacationAgent(ws_, ctx_, cmbAgent->currentIndex(), picks())) {
         fraMonth->setTitle(dayPickerCaption(ws_));
-        fraMonth->setAccessibleName(fraMonth->title());
         showDays();
     }
 }

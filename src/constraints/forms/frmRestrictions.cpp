@@ -43,7 +43,7 @@ frmRestrictions::frmRestrictions(Workspace& ws, Context& ctx, MainForm& main, Fa
             chkShift[w][i] =
                 makeCheckBox(fraDay[w], indexedName(boxName.constData(), i), QString());
             // Read aloud by its shift's time once it shows one.
-            chkShift[w][i]->setAccessibleName(fraDay[w]->accessibleName() + QLatin1Char(' ') +
+            chkShift[w][i]->setAccessibleName(ws.gDayNames[w] + QStringLiteral(", shift ") +
                                               QString::number(i + 1));
             labShift[w][i] = new ElidedLabel(fraDay[w]);
             labShift[w][i]->setObjectName(indexedName(labelName.constData(), i));

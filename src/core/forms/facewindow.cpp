@@ -26,6 +26,9 @@ FaceWindow::FaceWindow() : QWidget(nullptr, Qt::Window) {
     faces_->setContentsMargins(0, 0, 0, 0);
     scroll_ = new QScrollArea(this);
     scroll_->setFrameShape(QFrame::NoFrame);
+    // A click on a face where no control takes the focus leaves the focus where it was; the
+    // scrolling follows the focus among the face's controls.
+    scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidgetResizable(true);
     scroll_->setWidget(stage_);
     stage_->installEventFilter(this);
@@ -131,6 +134,9 @@ void FaceWindow::activateTopFace() {
     }
     if (top != nullptr && active_ == top) {
         top->Form_Activate();
+    }
+    if (top != nullptr && active_ == top) {
+        top->takeFocus();
     }
 }
 

@@ -2,11 +2,19 @@
 
 #include "core/forms/facewindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
 #include <QShowEvent>
 
 Form::Form(FaceWindow& window) : QWidget(nullptr), window_(window) {
     window.addFace(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && isAncestorOf(now)) {
+            lastFocus_ = now;
+        }
+    });
 }
 
 void Form::load() {
@@ -49,4 +57,43 @@ void Form::closeEvent(QCloseEvent* event) {
     } else {
         event->ignore();
     }
+}
+
+void Form::takeFocus() {
+    const auto canTake = [this](const QWidget* control) {
+        return control != nullptr && (control == this || isAncestorOf(control)) &&
+               control->isVisible() && control->isEnabled();
+    };
+    if (canTake(window()->focusWidget())) {
+        return;
+    }
+    QWidget* control = lastFocus_;
+    for (QWidget* next = nextInFocusChain(); !canTake(control) && next != this;
+         next = next->nextInFocusChain()) {
+        if ((next->focusPolicy() & Qt::TabFocus) != 0) {
+            control = next;
+        }
+    }
+    if (canTake(control)) {
+        control->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        auto* target = qobject_cast<QPushButton*>(focusWidget());
+        if (target == nullptr) {
+            for (QPushButton* button : findChildren<QPushButton*>()) {
+                if (button->isDefault() && button->isVisible() && button->isEnabled()) {
+                    target = button;
+                    break;
+                }
+            }
+        }
+        if (target != nullptr && target->isEnabled()) {
+            target->click();
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }

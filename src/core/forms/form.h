@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class FaceWindow;
@@ -23,6 +24,10 @@ public:
     void load();
     // False when Form_Unload kept the form.
     bool unload();
+    // Unless the form or one of its controls has the focus: the focus goes back to the control
+    // of this form that had it last, if that can still take it, else to the form's first
+    // control that Tab reaches. The window gives it the focus so each time it comes on top.
+    void takeFocus();
 
 protected:
     virtual void Form_Load() {}
@@ -34,10 +39,13 @@ protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    // Return and Enter press the push button that has the focus, else the default button.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     FaceWindow& window_;
     bool loaded_ = false;
+    QPointer<QWidget> lastFocus_;
 };
 
 // The main window as the other forms reach it: it takes the screen back when they close,

@@ -62,13 +62,13 @@ QString indexedName(const char* name, int index) {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
 }
 
+// A control with a caption is read aloud by the caption it shows, whatever it changes to.
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption) {
-    return named(new QPushButton(caption, parent), QLatin1String(name), spokenCaption(caption));
+    return named(new QPushButton(caption, parent), QLatin1String(name), QString());
 }
 
 QGroupBox* makeFrame(QWidget* parent, const char* name, const QString& caption) {
-    QGroupBox* frame =
-        named(new QGroupBox(caption, parent), QLatin1String(name), spokenCaption(caption));
+    QGroupBox* frame = named(new QGroupBox(caption, parent), QLatin1String(name), QString());
     retainSizeWhenHidden(frame);
     return frame;
 }
@@ -78,11 +78,11 @@ QLabel* makeLabel(QWidget* parent, const char* name, const QString& caption) {
 }
 
 QCheckBox* makeCheckBox(QWidget* parent, const QString& name, const QString& caption) {
-    return named(new QCheckBox(caption, parent), name, spokenCaption(caption));
+    return named(new QCheckBox(caption, parent), name, QString());
 }
 
 QRadioButton* makeRadioButton(QWidget* parent, const QString& name, const QString& caption) {
-    return named(new QRadioButton(caption, parent), name, spokenCaption(caption));
+    return named(new QRadioButton(caption, parent), name, QString());
 }
 
 QLineEdit* makeTextBox(QWidget* parent, const char* name, const QString& spokenAs) {
@@ -122,9 +122,7 @@ void makeSeparator(QMenu* menu, const char* name) {
 
 QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel) {
     ok->setDefault(true);
-    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), form);
-    escape->setContext(Qt::WidgetWithChildrenShortcut);
-    QObject::connect(escape, &QShortcut::activated, cancel, &QPushButton::click);
+    onEscape(form, [cancel] { cancel->click(); });
     auto* row = new QHBoxLayout;
     if (left != nullptr) {
         row->addWidget(left);
@@ -133,6 +131,12 @@ QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButt
     row->addWidget(ok);
     row->addWidget(cancel);
     return row;
+}
+
+void onEscape(QWidget* scope, const std::function<void()>& action) {
+    auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), scope);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    QObject::connect(escape, &QShortcut::activated, scope, action);
 }
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled) {

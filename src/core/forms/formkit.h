@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <initializer_list>
 
 class Clock;
@@ -21,8 +22,8 @@ class QWidget;
 
 // Controls as the forms make them. Each carries its given name as its objectName, so that
 // commands and tests find it by name, and a name that a screen reader reads: its caption
-// without the access-key mark, or, for a control without a caption, the words of the label
-// or frame that stands for it.
+// without the access-key mark, which follows the caption as it changes, or, for a control
+// without a caption, the words of the label or frame that stands for it.
 
 // The name of an element of a control array: "labDay(3)".
 QString indexedName(const char* name, int index);
@@ -44,6 +45,9 @@ void makeSeparator(QMenu* menu, const char* name);
 // The row of a form's closing buttons: what stands at its left end, if anything, then OK,
 // the default button, and Cancel, which Escape in the form presses, at its right end.
 QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButton* cancel);
+
+// Escape, while the focus is in the scope, does what is given.
+void onEscape(QWidget* scope, const std::function<void()>& action);
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
 

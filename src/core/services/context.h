@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/services/environment.h"
+#include "core/services/events.h"
 #include "core/services/launch.h"
 #include "core/services/randomsequence.h"
 
@@ -22,4 +23,6 @@ struct Context {
     Printers* printers = nullptr;
     // The machine the start-up asks for its facts; none where nothing is to be asked.
     const Machine* machine = nullptr;
+    // The long commands' yields, and the end of the program that may come during one.
+    Events events{};
 };

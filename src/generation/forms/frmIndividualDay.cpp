@@ -33,9 +33,9 @@ frmIndividualDay::frmIndividualDay(Workspace& ws, Context& ctx, Form& calendar, 
 void frmIndividualDay::buildControls() {
     auto* frames = new QGridLayout;
     for (int n = 1; n <= kDayEditorShifts; ++n) {
-        QGroupBox* frame = makeFrame(this, "", QString());
+        // Until a day is open a frame is named by its shift alone.
+        QGroupBox* frame = makeFrame(this, "", shiftWord(n));
         frame->setObjectName(indexedName("fraShift", n - 1));
-        frame->setAccessibleName(QStringLiteral("Shift %1").arg(n));
         frame->hide();
         auto* lists = new QVBoxLayout(frame);
         for (int k = 0; k < kDayEditorSlots; ++k) {
@@ -67,6 +67,8 @@ void frmIndividualDay::buildControls() {
     layout->addLayout(buttons);
 
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    // Escape leaves the day as it was, as the window's close box does.
+    onEscape(this, [this] { close(); });
 }
 
 // The lists offer the agents' keys as they stand now, the review having just been opened

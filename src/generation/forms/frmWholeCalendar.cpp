@@ -111,6 +111,8 @@ void frmWholeCalendar::buildControls() {
     // Choosing an entry, also the one already shown, is the list's click.
     connect(cmbAgents, &QComboBox::activated, this, [this] { cmbAgents_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    // The review has no Cancel: Escape closes it as OK does.
+    onEscape(this, [this] { cmdOK->click(); });
 }
 
 // Where the instruction, the agent list and the buttons stand depends on what the engine

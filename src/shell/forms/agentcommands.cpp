@@ -47,6 +47,7 @@ void frmMain::connectAgentCommands() {
     for (QLineEdit* box : {txtFirstName, txtLastName, txtEmail}) {
         selectAllOnFocus(box);
     }
+    onEscape(fraEditAgent, [this] { cmdCancel->click(); });
 }
 
 // The edit frame in the place of the month's commands, or the commands back in their place.

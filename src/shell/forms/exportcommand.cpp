@@ -54,7 +54,6 @@ public:
         main_.picStatus->hide();
         showProgress(0.0);
     }
-    void doEvents() override { ::doEvents(); }
     void endExport() override {
         main_.fraDate->show();
         main_.fraStatus->hide();
@@ -72,9 +71,11 @@ private:
 }  // namespace
 
 void frmMain::cmdExport_Click() {
-    WindowExportView view(*this);
-    MailSession session([](const MailAccount& account, const QString& password) {
-        return std::make_unique<SmtpTransport>(account, password);
+    runLongCommand([this] {
+        WindowExportView view(*this);
+        MailSession session([](const MailAccount& account, const QString& password) {
+            return std::make_unique<SmtpTransport>(account, password);
+        });
+        ::cmdExport(ws_, ctx_, view, session);
     });
-    ::cmdExport(ws_, ctx_, view, session);
 }

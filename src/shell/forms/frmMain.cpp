@@ -8,6 +8,7 @@
 #include "constraints/forms/frmViewDay.h"
 #include "core/forms/facewindow.h"
 #include "core/forms/formkit.h"
+#include "core/services/context.h"
 #include "environment/forms/frmAbout.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "printing/forms/frmPSetup.h"
@@ -66,6 +67,8 @@ frmMain::frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString&
     buildMenus();
     connectCommands();
     connectAgentCommands();
+    // The long commands' yields run the window's events.
+    ctx.events.run = [] { doEvents(); };
     review_ = new frmWholeCalendar(ws, ctx, *this, window);
     // Every face is made with the window, so that the window knows the room they all need.
     shifts_ = new frmViewDay(ws, ctx, *this, window);
@@ -171,16 +174,15 @@ void frmMain::buildControls() {
 QWidget* frmMain::buildCommandFrames() {
     auto* commands = new QWidget(this);
     fraViewEdit = makeFrame(commands, "fraViewEdit", QStringLiteral("View/edit current . . ."));
-    cmbViewEdit = makeDropDown(fraViewEdit, QStringLiteral("cmbViewEdit"),
-                               QStringLiteral("View/edit current"));
+    // The two drop-downs are read aloud by their frames.
+    cmbViewEdit = makeDropDown(fraViewEdit, QStringLiteral("cmbViewEdit"), fraViewEdit->title());
     cmdViewEdit = makeButton(fraViewEdit, "cmdViewEdit", QStringLiteral("&View/edit"));
     auto* viewEditLayout = new QHBoxLayout(fraViewEdit);
     viewEditLayout->addWidget(cmbViewEdit, 1);
     viewEditLayout->addWidget(cmdViewEdit);
 
     fraGenerate = makeFrame(commands, "fraGenerate", QStringLiteral("Generate schedule"));
-    cmbGenerate = makeDropDown(fraGenerate, QStringLiteral("cmbGenerate"),
-                               QStringLiteral("Scheduling engine"));
+    cmbGenerate = makeDropDown(fraGenerate, QStringLiteral("cmbGenerate"), fraGenerate->title());
     cmdGenerate = makeButton(fraGenerate, "cmdGenerate", QStringLiteral("Genera&te"));
     for (QComboBox* list : {cmbViewEdit, cmbGenerate}) {
         // Wide enough for the longest entry, which is filled in after the window has its size.

@@ -5,6 +5,7 @@
 #include "shell/viewedit.h"
 
 #include <array>
+#include <functional>
 
 class FaceWindow;
 class MonthStepper;
@@ -177,7 +178,6 @@ signals:
 protected:
     void Form_Load() override;
     void focusInEvent(QFocusEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void buildControls();
@@ -186,6 +186,10 @@ private:
     void buildMenus();
     void connectCommands();
     void connectAgentCommands();
+    // Runs a long command; a close of the window that came while it ran is taken after it.
+    void runLongCommand(const std::function<void()>& command);
+    // The generate command's questions, engine and review.
+    void generate();
 
     QString windowCaption() const;
     void setAgentFrameCaption();

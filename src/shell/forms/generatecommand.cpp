@@ -18,6 +18,10 @@
 #include <algorithm>
 
 void frmMain::cmdGenerate_Click() {
+    runLongCommand([this] { generate(); });
+}
+
+void frmMain::generate() {
     if (!prepareGenerate(ws_, ctx_, cmbGenerate->currentIndex())) {
         return;
     }
@@ -41,11 +45,9 @@ void frmMain::cmdGenerate_Click() {
         progress.placed = [this](int agent, double done) {
             lstAgents->setCurrentRow(agent - 1);
             showProgress(done);
-            doEvents();
         };
         progress.repairing = [this] {
             labStatusHigh->setText(QStringLiteral("Fixing the schedule . . ."));
-            doEvents();
             show();
         };
         progress.exchanged = [this](int agent) { lstAgents->setCurrentRow(agent - 1); };
@@ -53,6 +55,12 @@ void frmMain::cmdGenerate_Click() {
     runEngine(ws_, ctx_, progress);
     if (smartRandom) {
         doEvents();
+    }
+    // A run that the program's end cut short shows nothing of it.
+    if (ctx_.events.ending()) {
+        picStatus->hide();
+        modLeaveBusyState();
+        return;
     }
     showReview();
     if (smartRandom) {

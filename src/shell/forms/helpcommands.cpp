@@ -22,13 +22,13 @@ void frmMain::mnuHDump_Click() {
     createConfigurationDump(ws_, ctx_);
 }
 
-// The window shows the restored agents and month; the rest of it follows at the next
-// command.
+// The window shows the restored agents and month, and the print boxes and engine that the
+// commands will act on; the rest of it follows at the next command.
 void frmMain::mnuHOpenDump_Click() {
     if (!openConfigurationDump(ws_, ctx_)) {
         return;
     }
-    modFillAgentList();
+    showOpenedSchedule();
     labDate->setText(ws_.currentMonthAndYear());
 }
 

@@ -6,6 +6,7 @@
 #include "constraints/forms/frmViewDay.h"
 #include "core/forms/formkit.h"
 #include "core/model/workspace.h"
+#include "core/services/context.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "printing/forms/frmPSetup.h"
 #include "shell/filecommands.h"
@@ -96,12 +97,19 @@ void frmMain::connectCommands() {
     }
 }
 
+// A close of the window while a long command runs waits for the command to stop.
 bool frmMain::Form_Unload() {
-    if (!closeMainWindow(ws_, ctx_, *this)) {
+    if (ctx_.events.putOffClose() || !closeMainWindow(ws_, ctx_, *this)) {
         return false;
     }
     emit programEnds();
     return true;
+}
+
+void frmMain::runLongCommand(const std::function<void()>& command) {
+    if (ctx_.events.runCommand(command)) {
+        close();
+    }
 }
 
 void frmMain::mnuFExit_Click() {

@@ -17,7 +17,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -130,7 +129,9 @@ void frmMain::modLeaveBusyState() {
                   true);
     modUpdateCmbViewEdit();
 
-    // Printing and exporting need a generated schedule.
+    // The boxes and the engine list show what the commands will act on, also after a road
+    // that read the working file again. Printing and exporting need a generated schedule.
+    showPrintAndEngine();
     const bool generated = ws_.gScheduleGenerated == 1;
     for (QCheckBox* box : chkPrint) {
         box->setEnabled(generated);
@@ -155,6 +156,8 @@ void frmMain::modLeaveBusyState() {
         cmdAdd->setFocus();
         ws_.gFocusAddButton = 0;
     }
+    // The busy face took the focus from the control that had it.
+    takeFocus();
     showNormalPointer();
     doEvents();
     showToFront();
@@ -234,26 +237,6 @@ void frmMain::fraPrint_Click() {
 void frmMain::focusInEvent(QFocusEvent* event) {
     MainForm::focusInEvent(event);
     Form_GotFocus();
-}
-
-// Enter presses the button that has the focus, else the window's default button.
-void frmMain::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        auto* target = qobject_cast<QPushButton*>(focusWidget());
-        if (target == nullptr) {
-            for (QPushButton* button : findChildren<QPushButton*>()) {
-                if (button->isDefault() && button->isVisible() && button->isEnabled()) {
-                    target = button;
-                    break;
-                }
-            }
-        }
-        if (target != nullptr && target->isEnabled()) {
-            target->click();
-            return;
-        }
-    }
-    MainForm::keyPressEvent(event);
 }
 
 // The workspace's tag shows only under the program's own name.

@@ -22,6 +22,8 @@ MonthStepper::MonthStepper(QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
     // A click between the arrows is one step too.
     setPageStep(1);
     setFixedHeight(2 * sizeHint().width() + 4);
+    // Tab reaches it, so that the month can be stepped from the keyboard.
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void MonthStepper::mousePressEvent(QMouseEvent* event) {
@@ -53,10 +55,26 @@ void MonthStepper::wheelEvent(QWheelEvent* event) {
     }
 }
 
+// An arrow or page key is one step, the up ones forward; a key held down steps once. The
+// keys that would run the bar to its ends step nothing.
 void MonthStepper::keyPressEvent(QKeyEvent* event) {
-    const int before = value();
-    QScrollBar::keyPressEvent(event);
-    if (value() != before) {
+    int step = 0;
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_PageUp:
+            step = -1;
+            break;
+        case Qt::Key_Down:
+        case Qt::Key_PageDown:
+            step = 1;
+            break;
+        default:
+            QWidget::keyPressEvent(event);
+            return;
+    }
+    event->accept();
+    if (!event->isAutoRepeat()) {
+        setValue(value() + step);
         emit changed();
     }
 }

@@ -3,10 +3,9 @@
 #include <QScrollBar>
 
 // The month stepper: a vertical bar whose arrows, the space between them, the wheel and the
-// keys each make one step of one, and a drag of its thumb a step of any size. A step is
-// reported once the press that made it is over, never while the mouse button is still down:
-// a question that a step asks then stands on its own, and no press repeats by itself
-// behind it.
+// arrow and page keys each make one step of one, and a drag of its thumb a step of any size. A step
+// is reported once the press that made it is over, never while the mouse button is still down: a
+// question that a step asks then stands on its own, and no press repeats by itself behind it.
 class MonthStepper : public QScrollBar {
     Q_OBJECT
 

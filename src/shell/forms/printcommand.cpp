@@ -16,7 +16,6 @@ public:
 
     void beginPrinting(const QString& status) override { main_.beginLongCommand(status); }
     void showPrintStatus(const QString& status) override { main_.labStatus->setText(status); }
-    void doEvents() override { ::doEvents(); }
     void endPrinting() override { main_.modLeaveBusyState(); }
 
 private:
@@ -26,16 +25,20 @@ private:
 }  // namespace
 
 void frmMain::cmdPrint_Click() {
-    MainPrintView view(*this);
-    printSchedule(ws_, ctx_, view);
+    runLongCommand([this] {
+        MainPrintView view(*this);
+        printSchedule(ws_, ctx_, view);
+    });
 }
 
 // The boxes show only the one output while its command runs, then what the user had chosen.
 void frmMain::modPrintIndividualFormat(int position) {
-    const QString kept = lightOneOutput(ws_, position);
-    showPrintAndEngine();
-    cmdPrint_Click();
-    cmdExport_Click();
-    restoreOutputs(ws_, kept);
-    showPrintAndEngine();
+    runLongCommand([this, position] {
+        const QString kept = lightOneOutput(ws_, position);
+        showPrintAndEngine();
+        cmdPrint_Click();
+        cmdExport_Click();
+        restoreOutputs(ws_, kept);
+        showPrintAndEngine();
+    });
 }

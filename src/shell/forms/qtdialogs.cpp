@@ -11,6 +11,8 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -92,6 +94,36 @@ private:
     QAbstractButton* leave_ = nullptr;
 };
 
+// Room for a box's title bar and frame, which the window system shows only once it is up.
+constexpr int kFrameAllowance = 48;
+
+// A text too tall for the screen's available area stands in a scrolling area inside the box,
+// as tall as the screen leaves room for beside the buttons, so that the whole box stays on
+// the screen; the keys that scroll a page scroll it.
+void fitTextToScreen(QMessageBox& box) {
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const QScreen* screen = box.screen();
+    if (label == nullptr || screen == nullptr) {
+        return;
+    }
+    const int room = screen->availableGeometry().height() - kFrameAllowance;
+    box.layout()->activate();
+    const int whole = box.layout()->totalSizeHint().height();
+    if (whole <= room) {
+        return;
+    }
+    auto* text = new QScrollArea;
+    text->setObjectName(QStringLiteral("scrText"));
+    text->setFrameShape(QFrame::NoFrame);
+    text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    text->setWidgetResizable(true);
+    delete box.layout()->replaceWidget(label, text);
+    text->setWidget(label);
+    text->setFixedHeight(room - (whole - label->sizeHint().height()));
+    text->setMinimumWidth(label->sizeHint().width() +
+                          text->verticalScrollBar()->sizeHint().width());
+}
+
 // While a dialog asks, the pointer is the normal one, whatever hourglass the command shows;
 // the hourglass comes back with the answer.
 class NormalPointerWhileAsking {
@@ -166,6 +198,7 @@ MsgAnswer QtDialogs::messageBox(const QString& text, MsgIcon icon, MsgButtons bu
     }
     const auto chosenDefault = static_cast<std::size_t>(std::max(defaultButton, 1) - 1);
     box.setDefaultButton(choices[std::min(chosenDefault, choices.size() - 1)].qt);
+    fitTextToScreen(box);
     const auto clicked = static_cast<QMessageBox::StandardButton>(box.exec());
     for (const Button& choice : choices) {
         if (choice.qt == clicked) {

@@ -160,7 +160,7 @@ TEST(ReviewForm, TheDayEditorShowsTheDayAndOKStoresIt) {
 
     r.ws.schedule(5, 1, 0) = QStringLiteral("Zimmer");
     r.clickDay(5);
-    EXPECT_EQ(r.editor()->fraShift[1]->title(), QStringLiteral("Second shift: 12:00 - 17:00"));
+    EXPECT_EQ(spokenName(r.editor()->fraShift[1]), QStringLiteral("Second shift: 12:00 - 17:00"));
     EXPECT_EQ(r.list(1, 0)->currentIndex(), -1);
     r.list(2, 0)->setCurrentIndex(3);
     QTest::mouseClick(r.editor()->cmdOK, Qt::LeftButton);

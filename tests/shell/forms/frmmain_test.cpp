@@ -1,3 +1,4 @@
+#include "constraints/forms/frmHolidays.h"
 #include "core/forms/elidedlabel.h"
 #include "core/model/workspace.h"
 #include "core/services/textfile.h"
@@ -306,6 +307,20 @@ TEST(MainWindowForm, PrintBoxesAndEngineListMirrorTheWorkspace) {
         QTest::mouseClick(check, Qt::LeftButton, {}, QPoint(8, check->height() / 2));
     }
     EXPECT_EQ(w.ws.chkPrint, (std::array<int, 6>{1, 1, 2, 0, 0, 1}));  // never greyed again
+    // A configuration dump read, and a Cancel of the holidays reading the working file back
+    // over a box just ticked: the boxes and the list show what the commands will act on.
+    const QString dump = w.home.filePath(QStringLiteral("office.dmp"));
+    writeTextFile(dump, QStringLiteral("[Agents]\r\n1=Chen|Wei|\r\n[Settings]\r\nPrinter "
+                                       "Format=000100\r\nScheduling Engine=2\r\n"));
+    w.s.dialogs.fileAnswers = {dump};
+    w.main->mnuHOpenDump->trigger();
+    QTest::mouseClick(w.main->chkPrint[5], Qt::LeftButton, {}, QPoint(8, 8));
+    QTest::mouseClick(w.main->cmdHolidays, Qt::LeftButton);
+    QTest::mouseClick(w.window->findChild<frmHolidays*>()->cmdCancel, Qt::LeftButton);
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(w.main->chkPrint[i]->isChecked(), i == 3) << i;
+    }
+    EXPECT_EQ(w.main->cmbGenerate->currentIndex(), 2);
 
     for (const int agents : {3, 0}) {
         MainWindow m;
@@ -456,7 +471,8 @@ TEST(MainWindowForm, FileMenuAndTheRoadsOut) {
 
 // Add, Change, OK, Cancel and Delete by mouse: the edit frame takes the place of the month's
 // commands and the window is busy while it is open; OK puts the list in step with the
-// workspace. The constraint buttons want an agent chosen and say which picker they open.
+// workspace, and a screen reader hears the frames' captions as they change. The constraint
+// buttons want an agent chosen and say which picker they open.
 TEST(MainWindowForm, TheAgentCommands) {
     MainWindow w;
     withAgents(w.ws, 2);
@@ -467,7 +483,7 @@ TEST(MainWindowForm, TheAgentCommands) {
         EXPECT_EQ(w.busy(), open);
     };
     QTest::mouseClick(w.main->cmdAdd, Qt::LeftButton);
-    EXPECT_EQ(w.main->fraEditAgent->title(), QStringLiteral("Add an agent"));
+    EXPECT_EQ(spokenName(w.main->fraEditAgent), QStringLiteral("Add an agent"));
     expectEditor(true);
     QTest::keyClicks(w.main->txtFirstName, QStringLiteral("Zoe"));
     w.main->txtLastName->setFocus();
@@ -475,10 +491,11 @@ TEST(MainWindowForm, TheAgentCommands) {
     QTest::mouseClick(w.main->cmdOK, Qt::LeftButton);
     expectEditor(false);
     EXPECT_EQ(w.main->lstAgents->item(0)->text(), QStringLiteral("Abbott, Zoe"));
-    EXPECT_EQ(w.main->fraAgents->title(), QStringLiteral("Agent list (3 agents)"));
+    EXPECT_EQ(spokenName(w.main->fraAgents), QStringLiteral("Agent list (3 agents)"));
 
     w.main->lstAgents->setCurrentRow(0);
     QTest::mouseClick(w.main->cmdChange, Qt::LeftButton);
+    EXPECT_EQ(spokenName(w.main->fraEditAgent), QStringLiteral("Edit an agent"));
     EXPECT_EQ(w.main->txtFirstName->text(), QStringLiteral("Zoe"));
     w.main->txtLastName->setText(QStringLiteral("Young"));
     QTest::mouseClick(w.main->cmdOK, Qt::LeftButton);
@@ -524,7 +541,8 @@ TEST(MainWindowForm, TheAgentCommands) {
     }
 }
 
-// Every control a user works, and every list and box, has a name a screen reader reads.
+// Every control a user works, and every list and box, has a name a screen reader reads; the
+// engine and view/edit lists are read by their frames.
 TEST(MainWindowForm, EveryControlHasANameToBeReadAloud) {
     MainWindow w;
     withAgents(w.ws, 3);
@@ -545,6 +563,8 @@ TEST(MainWindowForm, EveryControlHasANameToBeReadAloud) {
                 << control->objectName().toStdString();
         }
     }
+    EXPECT_EQ(w.main->cmbGenerate->accessibleName(), spokenName(w.main->fraGenerate));
+    EXPECT_EQ(w.main->cmbViewEdit->accessibleName(), spokenName(w.main->fraViewEdit));
 }
 
 // A start with a schedule file on its command line shows the file's engine and print boxes;

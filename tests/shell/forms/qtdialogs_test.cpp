@@ -8,6 +8,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -65,25 +68,39 @@ TEST(QtDialogs, EscapeAndTheCloseBoxNeverAnswerAQuestion) {
     }
 }
 
-// The default button is the one asked for; the box shows the text and no title of its own.
+// The default button is the one asked for; the box shows the text and no title of its own. A
+// text taller than the screen, such as a list of 200 agents, scrolls inside the box, which
+// stays on the screen's available area with its buttons.
 TEST(QtDialogs, TheBoxShowsTheTextWithTheDefaultButton) {
-    QtDialogs dialogs;
-    QString text;
-    QString title;
-    bool noIsDefault = false;
-    whenUp([&](QWidget* widget) {
-        auto* box = static_cast<QMessageBox*>(widget);
-        text = box->text();
-        title = box->windowTitle();
-        noIsDefault = box->defaultButton() == box->button(QMessageBox::No);
-        QTest::keyClick(box, Qt::Key_Return);
-    });
-    EXPECT_EQ(
-        dialogs.messageBox(QStringLiteral("Delete?"), MsgIcon::Question, MsgButtons::YesNo, 2),
-        MsgAnswer::No);
-    EXPECT_EQ(text, QStringLiteral("Delete?"));
-    EXPECT_TRUE(title.isEmpty());
-    EXPECT_TRUE(noIsDefault);
+    QStringList agents(200, QStringLiteral("     Ann Agent"));
+    for (const QString& shown : {QStringLiteral("Delete?"), agents.join(QStringLiteral("\r\n"))}) {
+        QtDialogs dialogs;
+        QString text;
+        QString title;
+        bool noIsDefault = false;
+        bool onScreen = false;
+        bool scrolls = false;
+        whenUp([&](QWidget* widget) {
+            auto* box = static_cast<QMessageBox*>(widget);
+            text = box->text();
+            title = box->windowTitle();
+            noIsDefault = box->defaultButton() == box->button(QMessageBox::No);
+            const QRect area = box->screen()->availableGeometry();
+            const QWidget* yes = box->button(QMessageBox::Yes);
+            onScreen = area.contains(box->frameGeometry()) &&
+                       area.contains(QRect(yes->mapToGlobal(QPoint()), yes->size()));
+            const auto* scrolling = box->findChild<QScrollArea*>();
+            scrolls = scrolling != nullptr && scrolling->verticalScrollBar()->maximum() > 0;
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        EXPECT_EQ(dialogs.messageBox(shown, MsgIcon::Question, MsgButtons::YesNo, 2),
+                  MsgAnswer::No);
+        EXPECT_EQ(text, shown);
+        EXPECT_TRUE(title.isEmpty());
+        EXPECT_TRUE(noIsDefault);
+        EXPECT_TRUE(onScreen);
+        EXPECT_EQ(scrolls, shown.size() > 10);
+    }
 }
 
 // The open dialog lets a name that is not there through, to be refused by the reading; both

@@ -6,6 +6,7 @@
 #include "shell/forms/frmMain.h"
 
 // The controls the forms are made of, for the tests that drive them.
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -50,6 +51,11 @@ struct MainWindow {
     std::unique_ptr<FaceWindow> window;
     frmMain* main = nullptr;
 };
+
+// The name a screen reader hears for the control.
+inline QString spokenName(QObject* control) {
+    return QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name);
+}
 
 // A press or a release of a mouse button on a widget, as the window system gives it.
 inline void mouse(QWidget* widget, QEvent::Type type, QPoint at,
