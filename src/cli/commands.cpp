@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 
+#include "cli/balanceverb.h"
 #include "cli/exportverb.h"
 #include "cli/printverb.h"
 #include "cli/session.h"
@@ -29,7 +30,8 @@ const QString kUsage = QStringLiteral(
     "                   [--seed S] [--base B] [--working]\n"
     "       desko40-cli print IN --report calendar|grid|tearsheet|shifts|constraints --pdf OUT\n"
     "                   [--trace FILE]\n"
-    "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR]\n");
+    "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR]\n"
+    "       desko40-cli balance FILE [--format tsv|json]\n");
 
 int usage(QTextStream& err) {
     err << kUsage;
@@ -239,6 +241,10 @@ int runCommand(const QStringList& args, QTextStream& out, QTextStream& err, cons
     }
     if (command == QStringLiteral("export")) {
         const std::optional<int> status = exportSchedule(args, err, launch);
+        return status ? *status : usage(err);
+    }
+    if (command == QStringLiteral("balance")) {
+        const std::optional<int> status = balanceVerb(args, out, err, launch);
         return status ? *status : usage(err);
     }
     return usage(err);

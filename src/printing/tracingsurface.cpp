@@ -1,5 +1,7 @@
 #include "printing/tracingsurface.h"
 
+#include "core/model/numbers.h"
+
 namespace {
 
 QString quoted(const QString& text) {
@@ -22,14 +24,7 @@ QString point(double x, double y) {
 }  // namespace
 
 QString traceNumber(double value) {
-    QString text = QString::number(value, 'f', 4);
-    while (text.endsWith(QLatin1Char('0'))) {
-        text.chop(1);
-    }
-    if (text.endsWith(QLatin1Char('.'))) {
-        text.chop(1);
-    }
-    return text == QStringLiteral("-0") ? QStringLiteral("0") : text;
+    return decimalText(value, 4);
 }
 
 TracingSurface::TracingSurface(Surface& inner, Sink sink) : inner_(inner), sink_(std::move(sink)) {}

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -76,6 +77,10 @@ TEST_F(Cli, AnswersAndUsage) {
         {texts({"export", "in.dko", "--csv"}), 2, ""},
         {texts({"export", "in.dko", "--email", "more.dko"}), 2, ""},
         {texts({"export", "in.dko", "--email"}), 1, ""},
+        {texts({"balance"}), 2, ""},
+        {texts({"balance", "in.dko", "--format", "csv"}), 2, ""},
+        {texts({"balance", "in.dko", "more.dko"}), 2, ""},
+        {texts({"balance", "in.dko"}), 1, ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.args.join(QLatin1Char(' ')).toStdString());
@@ -83,6 +88,26 @@ TEST_F(Cli, AnswersAndUsage) {
         EXPECT_EQ(r.code, c.code);
         EXPECT_EQ(r.out, QString::fromUtf8(c.out));
         EXPECT_EQ(r.err.startsWith(QStringLiteral("usage: desko40-cli")), c.code == 2);
+    }
+}
+
+// The balance of months counted by hand, as a table and as JSON.
+TEST_F(Cli, BalanceTellsTheHandCountedMonths) {
+    const QDir golden(QStringLiteral(DESKO_BALANCE_DIR));
+    for (const QString& month : golden.entryList({QStringLiteral("*.dko")})) {
+        SCOPED_TRACE(month.toStdString());
+        const QString in = work.filePath(month);
+        QFile::copy(golden.filePath(month), in);
+        const QString base = golden.filePath(QFileInfo(month).completeBaseName());
+        for (const char* format : {"tsv", "json"}) {
+            const QString expected = base + QLatin1Char('.') + QLatin1String(format);
+            if (QFile::exists(expected)) {
+                const Result r = run({QStringLiteral("balance"), in, QStringLiteral("--format"),
+                                      QString::fromUtf8(format)});
+                EXPECT_EQ(r.code, 0);
+                EXPECT_EQ(r.out, fileText(expected));
+            }
+        }
     }
 }
 

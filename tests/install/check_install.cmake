@@ -3,6 +3,7 @@
 # entry, the icon in every size of the icon theme, and the schedule files' type that the
 # entry opens. Run as:
 #   cmake -DBUILD=<build dir> -DPREFIX=<empty folder> -DHELP=<help sources> -P check_install.cmake
+# With -DINSTALLED=ON it checks a prefix that is installed already, such as a package's /usr.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -10,11 +11,13 @@ function(fail message)
   message(FATAL_ERROR "${message}")
 endfunction()
 
-file(REMOVE_RECURSE "${PREFIX}")
-execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --prefix "${PREFIX}"
-  RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
-if(NOT status EQUAL 0)
-  fail("cmake --install failed:\n${output}")
+if(NOT INSTALLED)
+  file(REMOVE_RECURSE "${PREFIX}")
+  execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --prefix "${PREFIX}"
+    RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT status EQUAL 0)
+    fail("cmake --install failed:\n${output}")
+  endif()
 endif()
 
 set(share "${PREFIX}/share")

@@ -39,6 +39,14 @@ QSize DayCell::minimumSizeHint() const {
     return size_;
 }
 
+void DayCell::setMarked(bool marked) {
+    setBackgroundRole(marked ? QPalette::Highlight : QPalette::Base);
+    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(text),
+                          static_cast<QWidget*>(number)}) {
+        part->setForegroundRole(marked ? QPalette::HighlightedText : QPalette::Text);
+    }
+}
+
 void DayCell::resizeEvent(QResizeEvent* event) {
     QFrame::resizeEvent(event);
     const QRect inside = contentsRect() - kPadding;

@@ -17,6 +17,8 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    // A marked box stands out in the palette's highlight, as a chosen item does.
+    void setMarked(bool marked);
 
     ElidedLabel* text;
     QLabel* number;

@@ -51,3 +51,14 @@ std::optional<int> wholeNumber(const QString& text) {
     const std::optional<double> value = numericValue(text);
     return value ? roundToInt(*value) : std::nullopt;
 }
+
+QString decimalText(double value, int decimals) {
+    QString text = QString::number(value, 'f', decimals);
+    while (text.endsWith(QLatin1Char('0'))) {
+        text.chop(1);
+    }
+    if (text.endsWith(QLatin1Char('.'))) {
+        text.chop(1);
+    }
+    return text == QStringLiteral("-0") ? QStringLiteral("0") : text;
+}

@@ -17,3 +17,6 @@ std::optional<int> wholeNumber(const QString& text);
 
 // Rounds halves to the even neighbour; nothing when the value does not fit 32 bits.
 std::optional<int> roundToInt(double value);
+
+// A number with at most the given decimals and no trailing zeros, "12", "7.5", never "-0".
+QString decimalText(double value, int decimals);

@@ -6,12 +6,9 @@
 #include <optional>
 #include <utility>
 
-namespace {
+namespace {}  // namespace
 
-// A time of day is an hour of one or two digits, optionally ":" and minutes, optionally ":"
-// and seconds (one or two digits each), then a blank and AM or PM. The hour runs 1 to 12,
-// minutes and seconds 0 to 59, and 12 AM is midnight. Gives the minutes since midnight, or
-// nothing for any other text. Strict on purpose: it must not vary with the user's locale.
+// Strict on purpose: it must not vary with the user's locale.
 std::optional<int> minutesOfDay(const QString& time) {
     static const QRegularExpression pattern(QRegularExpression::anchoredPattern(
         QStringLiteral("([0-9]{1,2})(?::([0-9]{1,2})(?::([0-9]{1,2}))?)? ([AP]M)")));
@@ -29,6 +26,8 @@ std::optional<int> minutesOfDay(const QString& time) {
     const bool pm = match.captured(4) == QLatin1String("PM");
     return (hour % 12 + (pm ? 12 : 0)) * 60 + minute;
 }
+
+namespace {
 
 // "hh:mm AM" for a time of day; any other text comes through as it is, so that the length
 // and difference checks reject it later.

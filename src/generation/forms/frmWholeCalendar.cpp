@@ -11,13 +11,13 @@
 #include "core/services/log.h"
 #include "core/services/msgbox.h"
 #include "generation/engines.h"
+#include "generation/forms/balancepanel.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/generate.h"
 #include "generation/review.h"
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -58,7 +58,7 @@ frmWholeCalendar::frmWholeCalendar(Workspace& ws, Context& ctx, MainForm& main, 
 }
 
 void frmWholeCalendar::buildControls() {
-    grid_ = new QGridLayout;
+    grid_ = new QGridLayout(this);
     grid_->setHorizontalSpacing(4);
     grid_->setVerticalSpacing(4);
 
@@ -103,16 +103,73 @@ void frmWholeCalendar::buildControls() {
     }
     placeEngineControls(kEngineShuffled);
 
-    // The calendar shares its row with what may stand beside it.
-    auto* row = new QHBoxLayout(this);
-    row->addLayout(grid_, 1);
-
     connect(cmdReschedule, &QPushButton::clicked, this, [this] { cmdReschedule_Click(); });
     // Choosing an entry, also the one already shown, is the list's click.
     connect(cmbAgents, &QComboBox::activated, this, [this] { cmbAgents_Click(); });
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     // The review has no Cancel: Escape closes it as OK does.
     onEscape(this, [this] { cmdOK->click(); });
+    addBalancePanel();
+}
+
+// The balance takes a column of its own right of the calendar, its toggle the left end of
+// the button row.
+void frmWholeCalendar::addBalancePanel() {
+    calendarWidth_ = grid_->minimumSize().width();
+    balancePanel = new BalancePanel(this);
+    balancePanel->hide();
+    grid_->addWidget(balancePanel, kDayNameRow, kColumns, kButtonRow - kDayNameRow, 1);
+    cmdBalance = makeButton(this, "cmdBalance", QStringLiteral("&Balance"));
+    cmdBalance->setCheckable(true);
+    grid_->addWidget(cmdBalance, kButtonRow, 0, Qt::AlignLeft);
+    connect(cmdBalance, &QPushButton::clicked, this, [this](bool shown) {
+        balanceShown_ = shown;
+        fitBalancePanel();
+    });
+    connect(balancePanel, &BalancePanel::agentChosen, this,
+            [this](int agent) { markAgentDays(agent); });
+}
+
+QSize frmWholeCalendar::sizeHint() const {
+    QSize wanted = Form::sizeHint();
+    if (balancePanel->isHidden()) {
+        wanted.rwidth() += layout()->spacing() + balancePanel->sizeHint().width();
+    }
+    return wanted;
+}
+
+QSize frmWholeCalendar::minimumSizeHint() const {
+    QSize least = Form::minimumSizeHint();
+    if (!balancePanel->isHidden() && !balanceShown_.value_or(false)) {
+        least.setWidth(calendarWidth_);
+    }
+    return least;
+}
+
+void frmWholeCalendar::fitBalancePanel() {
+    const int room = calendarWidth_ + layout()->spacing() + balancePanel->minimumSizeHint().width();
+    const bool shown = balanceShown_.value_or(width() >= room);
+    if (!shown) {
+        balancePanel->choose(0);
+    }
+    balancePanel->setVisible(shown);
+    cmdBalance->setChecked(shown);
+}
+
+void frmWholeCalendar::resizeEvent(QResizeEvent* event) {
+    Form::resizeEvent(event);
+    fitBalancePanel();
+}
+
+void frmWholeCalendar::markAgentDays(int agent) {
+    const MonthBalance& balance = balancePanel->balance();
+    for (int i = 0; i < kCells; ++i) {
+        const int day = i + 1 - ws_.gFirstWeekday;
+        const bool worked = agent >= 1 && agent <= static_cast<int>(balance.agents.size()) &&
+                            day >= 1 && day < kMonthDaySlots &&
+                            balance.agents[agent - 1].worked[day];
+        cells_[i]->setMarked(worked);
+    }
 }
 
 // Where the instruction, the agent list and the buttons stand depends on what the engine
@@ -164,6 +221,8 @@ void frmWholeCalendar::Form_Load() {
     }
 
     ws_.gScheduleGenerated = 1;
+    balancePanel->choose(0);
+    fitBalancePanel();
 
     showNormalPointer();
     doEvents();
@@ -184,6 +243,9 @@ void frmWholeCalendar::Form_Activate() {
         labDay[i]->setLines(dayCaption(ws_, d));
         cells_[i]->setAccessibleName(daySpokenText(ws_, d));
     }
+    balancePanel->showBalance(ws_);
+    fitBalancePanel();
+    markAgentDays(balancePanel->chosenAgent());
     show();
     showNormalPointer();
 }

@@ -3,7 +3,9 @@
 #include "core/forms/form.h"
 
 #include <array>
+#include <optional>
 
+class BalancePanel;
 class DayCell;
 class ElidedLabel;
 class FaceWindow;
@@ -26,6 +28,10 @@ struct Workspace;
 //
 // Showing the form loads it: it takes the main window's caption and hides the main window.
 // OK or the window's close box unload it, and the day editor with it.
+//
+// Beside the calendar stands the month's balance, shown when the form is wide enough for
+// both and otherwise hidden; the toggle "cmdBalance" shows or hides it at the user's word.
+// Choosing an agent in it marks the agent's days in the calendar.
 class frmWholeCalendar : public Form {
     Q_OBJECT
 
@@ -56,15 +62,28 @@ public:
     QComboBox* cmbAgents;
     QPushButton* cmdReschedule;
     QPushButton* cmdOK;
+    BalancePanel* balancePanel;
+    QPushButton* cmdBalance;
+
+    // The form asks for room for the balance, also while it is hidden.
+    QSize sizeHint() const override;
+    // The balance that shows by itself gives way where the calendar needs the room, so it
+    // never makes the window larger; the balance the user asked for needs its room.
+    QSize minimumSizeHint() const override;
 
 protected:
     void Form_Load() override;
     bool Form_Unload() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildControls();
     void placeEngineControls(int engine);
+    void addBalancePanel();
+    // Shows the balance as the user chose, or where it fits beside the calendar.
+    void fitBalancePanel();
+    void markAgentDays(int agent);
 
     Workspace& ws_;
     Context& ctx_;
@@ -73,4 +92,8 @@ private:
     std::array<DayCell*, kCells> cells_;
     MonthCells* days_;
     frmIndividualDay* dayEditor_;
+    // The width the calendar needs without the balance.
+    int calendarWidth_ = 0;
+    // Whether the user asked for the balance, until then nothing.
+    std::optional<bool> balanceShown_;
 };

@@ -1,10 +1,15 @@
 #include "core/forms/elidedlabel.h"
 #include "core/model/calendar.h"
 #include "core/model/workspace.h"
+#include "generation/forms/balancepanel.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "mainwindow.h"
 #include "offices.h"
+#include "shell/filecommands.h"
+
+#include <QDir>
+#include <QTableView>
 
 #include <gtest/gtest.h>
 
@@ -207,4 +212,73 @@ TEST(ReviewForm, LeavingTheReviewGivesTheMainWindowBack) {
     }
     EXPECT_EQ(shown, 28);
     EXPECT_EQ(r.main->review()->labNumber[1]->text(), QStringLiteral("1"));
+}
+
+// The balance stands beside the calendar once the toggle asks for it on this small screen, and
+// tells each hand-counted month as the headless tool does. A click on an agent's row marks the
+// agent's days, a second click ends it; the day editor's change shows at once; hiding the
+// balance ends the marks.
+TEST(ReviewForm, TheBalanceAgreesWithTheToolAndMarksTheAgentsDays) {
+    const QDir golden(QStringLiteral(DESKO_BALANCE_DIR));
+    for (const QString& month : golden.entryList({QStringLiteral("*.dko")})) {
+        SCOPED_TRACE(month.toStdString());
+        Review r;
+        const QString copy = r.home.filePath(month);
+        QFile::copy(golden.filePath(month), copy);
+        ASSERT_TRUE(openSchedule(r.ws, r.s.ctx, copy));
+        frmWholeCalendar* review = r.show(0);
+        EXPECT_FALSE(review->balancePanel->isVisible());
+        QTest::mouseClick(review->cmdBalance, Qt::LeftButton);
+        ASSERT_TRUE(review->balancePanel->isVisible());
+
+        QTableView* table = review->balancePanel->tabBalance;
+        const auto text = [&](int row, int column) {
+            return table->model()->index(row, column).data().toString();
+        };
+        QStringList shown = {balanceHeader().join(QLatin1Char('\t'))};
+        for (int row = 0; row < table->model()->rowCount(); ++row) {
+            QStringList fields = {text(row, 0).remove(QRegularExpression(QStringLiteral("^. ")))};
+            for (int column = 1; column < 8; ++column) {
+                fields.append(text(row, column));
+            }
+            fields.append(text(row, 0).startsWith(QChar(0x25B2))   ? QStringLiteral("over")
+                          : text(row, 0).startsWith(QChar(0x25BC)) ? QStringLiteral("under")
+                                                                   : QString());
+            shown.append(fields.join(QLatin1Char('\t')));
+        }
+        const QStringList told =
+            fileText(golden.filePath(QFileInfo(month).completeBaseName() + QStringLiteral(".tsv")))
+                .split(QLatin1Char('\n'));
+        EXPECT_EQ(shown, told.mid(0, shown.size()));
+        const QStringList spread = told[shown.size()].split(QLatin1Char('\t'));
+        EXPECT_TRUE(review->balancePanel->labSpread->text().startsWith(
+            QStringLiteral("Spread: %1 shifts, %2 hours").arg(spread[1], spread[2])));
+
+        const auto marked = [&] {
+            QList<int> days;
+            for (int day = 1; day <= 31; ++day) {
+                days.append(
+                    r.cell(day)->parentWidget()->backgroundRole() == QPalette::Highlight ? day : 0);
+            }
+            days.removeAll(0);
+            return days;
+        };
+        const QPoint adams = table->visualRect(table->model()->index(0, 1)).center();
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, adams);
+        const QList<int> adamsDays = month.startsWith(QLatin1String("holidays"))
+                                         ? QList<int>{2, 3, 7, 11, 13, 15}
+                                         : QList<int>{4, 7, 9};
+        EXPECT_EQ(marked(), adamsDays);
+        r.clickDay(20);
+        r.list(1, 0)->setCurrentIndex(0);
+        QTest::mouseClick(r.editor()->cmdOK, Qt::LeftButton);
+        EXPECT_TRUE(marked().contains(20));
+        EXPECT_EQ(text(0, 1).toInt(), told[1].split(QLatin1Char('\t'))[1].toInt() + 1);
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, adams);
+        EXPECT_TRUE(marked().isEmpty());
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, adams);
+        QTest::mouseClick(review->cmdBalance, Qt::LeftButton);
+        EXPECT_FALSE(review->balancePanel->isVisible());
+        EXPECT_TRUE(marked().isEmpty());
+    }
 }
