@@ -32,14 +32,13 @@ public:
 
     // Shows the cells of the month's days and hides the others.
     void showMonth(int firstCell, int days);
-    // The cell that the Tab key comes to, and from which the arrow keys go on.
-    void setCurrent(int index);
-    int current() const { return current_; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The cell that the Tab key comes to, and from which the arrow keys go on.
+    void setCurrent(int index);
     int indexOf(const QObject* watched) const;
     bool isDay(int index) const;
     // The day the key leads to from the cell, or -1 for a key that is no step.
