@@ -30,7 +30,8 @@ const QString kUsage = QStringLiteral(
     "                   [--seed S] [--base B] [--working]\n"
     "       desko40-cli print IN --report calendar|grid|tearsheet|shifts|constraints --pdf OUT\n"
     "                   [--trace FILE]\n"
-    "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR]\n"
+    "       desko40-cli export IN [--csv FILE] [--email] [--calendar] [--outbox DIR] [--ics "
+    "DIR]\n"
     "       desko40-cli balance FILE [--format tsv|json]\n");
 
 int usage(QTextStream& err) {

@@ -2,6 +2,7 @@
 
 #include "cli/session.h"
 #include "core/services/mailaccounts.h"
+#include "export/calendarfiles.h"
 #include "export/exportcommand.h"
 #include "export/exportview.h"
 #include "export/mailsession.h"
@@ -41,6 +42,7 @@ struct ExportOptions {
     QString in;
     std::optional<QString> csv;
     std::optional<QString> outbox;
+    std::optional<QString> ics;
     bool email = false;
     bool calendar = false;
 };
@@ -58,6 +60,8 @@ std::optional<ExportOptions> exportOptions(const QStringList& args) {
             options.csv = args[++i];
         } else if (arg == QStringLiteral("--outbox") && hasValue) {
             options.outbox = args[++i];
+        } else if (arg == QStringLiteral("--ics") && hasValue) {
+            options.ics = args[++i];
         } else if (arg.startsWith(QStringLiteral("--")) || !options.in.isEmpty()) {
             return std::nullopt;
         } else {
@@ -101,5 +105,14 @@ std::optional<int> exportSchedule(const QStringList& args, QTextStream& err, con
     });
     HeadlessExportView view;
     cmdExport(ws, session.ctx, view, mail);
-    return 0;
+    if (!options->ics) {
+        return 0;
+    }
+    // The calendar files as File > Save calendars as iCalendar files... writes them.
+    QDir().mkpath(*options->ics);
+    const QStringList failed = saveCalendarFiles(ws, session.clock.now(), *options->ics);
+    for (const QString& name : failed) {
+        fail(err, QDir(*options->ics).filePath(name), QStringLiteral("cannot be written"));
+    }
+    return failed.isEmpty() ? 0 : 1;
 }

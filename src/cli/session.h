@@ -32,8 +32,8 @@ private:
 };
 
 // A workspace as a run of the program has it before reading any file. The tool leaves no
-// trace on the machine: no log and no working file, and the settings store lives only as
-// long as the command.
+// trace on the machine but the journal of the meeting requests it sent: no log and no
+// working file, and the settings store lives only as long as the command.
 struct Session {
     Session(QTextStream& err, const QString& subject, const Launch& launch);
     Workspace ws;

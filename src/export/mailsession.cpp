@@ -40,13 +40,14 @@ bool MailSession::open(const QString& configPath, const QString& accountName) {
                         QStringLiteral("\" could not be read from ") + configPath;
         return false;
     }
-    const std::optional<QString> password = accountPassword(*account);
-    if (!password) {
-        closedReason_ = QStringLiteral("The password command of the mail account \"") +
-                        accountName + QStringLiteral("\" failed");
+    if (!password_) {
+        password_ = accountPassword(*account);
+    }
+    if (!password_->password) {
+        closedReason_ = password_->missing;
         return false;
     }
-    transport_ = makeTransport_(*account, *password);
+    transport_ = makeTransport_(*account, *password_->password);
     sender_ = senderOf(*account);
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/services/mailaccounts.h"
+#include "core/services/mailpassword.h"
 #include "export/mailtransport.h"
 
 #include <QDateTime>
@@ -35,7 +36,9 @@ public:
     bool isOpen() const { return transport_ != nullptr; }
     // Opens the account of that name in the mail configuration and asks for its password;
     // false, with the reason kept for the sends that follow, when there is no such account
-    // or its password cannot be had.
+    // or its password cannot be had. The password is asked for once in the session's life,
+    // however often the opening is tried: a password command runs once, and a passphrase
+    // prompt the user cancelled is not shown again.
     bool open(const QString& configPath, const QString& accountName);
     // The address the messages come from; empty while the session is closed.
     const QString& sender() const { return sender_; }
@@ -46,6 +49,7 @@ public:
 
 private:
     TransportMaker makeTransport_;
+    std::optional<AccountPassword> password_;
     std::unique_ptr<MailTransport> transport_;
     QString sender_;
     QString closedReason_;

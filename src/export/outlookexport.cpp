@@ -4,13 +4,15 @@
 #include "core/services/clock.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
+#include "export/appointments.h"
+#include "export/calendarevents.h"
 #include "export/exportresults.h"
 #include "export/exportview.h"
 #include "export/mailsession.h"
-#include "export/meetingrequest.h"
+#include "export/requestjournal.h"
 #include "export/shifttimes.h"
 
-#include <QCryptographicHash>
+#include <QLocale>
 
 namespace {
 
@@ -26,17 +28,12 @@ int positionsOfMonth(const Workspace& ws) {
     return total;
 }
 
-// The same for the same agent, date and shift, so that a second export updates the
-// appointments of the first instead of doubling them. Two agents who share an address keep
-// appointments of their own.
-QString appointmentId(const Workspace& ws, int agent, const QDate& date, int shift) {
-    const QByteArray who =
-        (ws.gAgentEmail[agent].toLower() + QLatin1Char('\n') + ws.gAgentKey[agent]).toUtf8();
-    return date.toString(QStringLiteral("yyyyMMdd")) + QLatin1Char('-') + QString::number(shift) +
-           QLatin1Char('-') +
-           QString::fromLatin1(
-               QCryptographicHash::hash(who, QCryptographicHash::Sha1).toHex().left(16)) +
-           QStringLiteral("@desko");
+QString monthDayAndTimes(const SentAppointment& sent) {
+    const auto clock = [](int minutes) {
+        return QTime(minutes / 60, minutes % 60).toString(QStringLiteral("HH:mm"));
+    };
+    return QLocale::c().toString(sent.date, QStringLiteral("dddd d MMMM yyyy")) +
+           QStringLiteral(", ") + clock(sent.start) + QStringLiteral(" - ") + clock(sent.end);
 }
 
 class OutlookChannel {
@@ -47,20 +44,29 @@ public:
           view_(view),
           session_(session),
           times_(interpretWeeklyShifts(ws)),
-          requests_(ctx.clock.now(), QDate(ws.gCurrentYear, ws.gCurrentMonth, 1)) {}
+          month_(ws.gCurrentYear, ws.gCurrentMonth, 1),
+          journalPath_(requestJournalPath(ws.gAppPath)),
+          journal_(readRequestJournal(journalPath_, month_)),
+          requests_(ctx.clock.now(), month_, nextSequence(ctx.clock.now(), journal_.sequence)) {}
 
     void run();
 
 private:
     void treat(int agent, const QDate& date, int weekday, int shift);
     void send(int agent, const QDate& date, int shift, const ShiftTimes& times);
+    std::vector<SentAppointment> requestedAppointments() const;
+    void cancelWithdrawnAppointments();
 
     Workspace& ws_;
     Context& ctx_;
     ExportView& view_;
     MailSession& session_;
     WeeklyShiftTimes times_;
-    MeetingRequestBuilder requests_;
+    QDate month_;
+    // What earlier exports of the month sent, and from the cancellations on what this one did.
+    QString journalPath_;
+    RequestJournal journal_;
+    CalendarBuilder requests_;
     int done_ = 1;
     int total_ = 0;
 };
@@ -74,9 +80,18 @@ void OutlookChannel::run() {
     // The probe appointment readies the time zone's tables before the real work; it is
     // never sent.
     const QString firstAddress = ws_.gAgentCount >= 1 ? ws_.gAgentEmail[1] : QString();
-    requests_.build(
-        {QString(), session_.sender(), firstAddress, QDate(2035, 1, 1), 60, 120, {}, {}});
+    requests_.build(CalendarMethod::Request, {{QString(),
+                                               QDate(2035, 1, 1),
+                                               false,
+                                               60,
+                                               120,
+                                               {},
+                                               {},
+                                               session_.sender(),
+                                               firstAddress,
+                                               {}}});
     ctx_.events.doEvents();
+    cancelWithdrawnAppointments();
     // done counts on over all agents, so the bar is full after the first agent's pass.
     done_ = 1;
     for (int agent = 1; agent <= ws_.gAgentCount; ++agent) {
@@ -93,6 +108,7 @@ void OutlookChannel::run() {
             }
         }
     }
+    writeRequestJournal(journalPath_, month_, journal_);
     offerResults(ctx_, ws_.gExportResults,
                  QStringLiteral("At least one agent failed to receive an Outlook appointment.  "
                                 "Would you like to see the results?"));
@@ -127,9 +143,10 @@ void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift)
 
 void OutlookChannel::send(int agent, const QDate& date, int shift, const ShiftTimes& times) {
     const QString& address = ws_.gAgentEmail[agent];
-    const QByteArray request =
-        requests_.build({appointmentId(ws_, agent, date, shift), session_.sender(), address, date,
-                         times.start, times.end, ws_.gOutlookSubject, ws_.gOutlookBody});
+    CalendarEvent event = shiftEvent(ws_, {agent, date, ws_.weekdayOf(date.day()), shift}, times);
+    event.organizer = session_.sender();
+    event.attendee = address;
+    const QByteArray request = requests_.build(CalendarMethod::Request, {event});
     const std::optional<SendFailure> failure =
         session_.send(ctx_.clock.now(), {address, ws_.gOutlookSubject, ws_.gOutlookBody, request});
     // Only an agent's first failure is told: the later ones are the same story.
@@ -143,6 +160,77 @@ void OutlookChannel::send(int agent, const QDate& date, int shift, const ShiftTi
                       failure->description + QLatin1Char(')'));
     }
     view_.showProgress(total_ > 0 ? static_cast<double>(done_) / total_ : 1.0);
+}
+
+// The appointments that this export's requests carry: each shift with a time that can be read,
+// of each agent with an address.
+std::vector<SentAppointment> OutlookChannel::requestedAppointments() const {
+    std::vector<SentAppointment> requested;
+    for (int agent = 1; agent <= ws_.gAgentCount; ++agent) {
+        if (ws_.gAgentEmail[agent].isEmpty()) {
+            continue;
+        }
+        for (const AgentShift& shift : agentShifts(ws_, agent)) {
+            const ShiftTimes& times = times_[shift.weekday][shift.shift];
+            if (times.ok) {
+                requested.push_back({appointmentId(ws_, agent, shift.date, shift.shift),
+                                     ws_.gAgentEmail[agent], shift.date, times.start, times.end});
+            }
+        }
+    }
+    return requested;
+}
+
+// Before the requests, each appointment that an earlier export of the month sent and that the
+// schedule no longer holds is cancelled in its attendee's calendar. The journal first takes in
+// this export's requests, so that an export cut short leaves none of them unknown; in the end
+// it holds them and the appointments whose cancellation failed, to be tried again next time.
+// A failed cancellation is told in the log alone: the results speak of appointments created.
+void OutlookChannel::cancelWithdrawnAppointments() {
+    const std::vector<SentAppointment> requested = requestedAppointments();
+    const auto isRequested = [&](const SentAppointment& sent) {
+        return std::any_of(requested.begin(), requested.end(),
+                           [&](const SentAppointment& r) { return r.uid == sent.uid; });
+    };
+    std::vector<SentAppointment> withdrawn;
+    std::copy_if(journal_.sent.begin(), journal_.sent.end(), std::back_inserter(withdrawn),
+                 [&](const SentAppointment& sent) { return !isRequested(sent); });
+    journal_.sequence = requests_.sequence();
+    journal_.sent = requested;
+    journal_.sent.insert(journal_.sent.end(), withdrawn.begin(), withdrawn.end());
+    writeRequestJournal(journalPath_, month_, journal_);
+    journal_.sent = requested;
+    for (auto it = withdrawn.begin(); it != withdrawn.end(); ++it) {
+        // A program that ends keeps what it did not cancel for the next export.
+        if (!ctx_.events.doEvents()) {
+            journal_.sent.insert(journal_.sent.end(), it, withdrawn.end());
+            return;
+        }
+        const SentAppointment& sent = *it;
+        const QByteArray cancellation =
+            requests_.build(CalendarMethod::Cancel, {{sent.uid,
+                                                      sent.date,
+                                                      false,
+                                                      sent.start,
+                                                      sent.end,
+                                                      ws_.gOutlookSubject,
+                                                      ws_.gOutlookBody,
+                                                      session_.sender(),
+                                                      sent.attendee,
+                                                      {}}});
+        const std::optional<SendFailure> failure =
+            session_.send(ctx_.clock.now(),
+                          {sent.attendee, QStringLiteral("Cancelled: ") + ws_.gOutlookSubject,
+                           QStringLiteral("Cancelled: ") + monthDayAndTimes(sent), cancellation});
+        if (failure) {
+            journal_.sent.push_back(sent);
+            modStatus(ws_, ctx_,
+                      QStringLiteral("Failed to cancel the Outlook appointment of ") +
+                          monthDayAndTimes(sent) + QStringLiteral(" for ") + sent.attendee +
+                          QStringLiteral(" with error ") + QString::number(failure->number) +
+                          QStringLiteral(" (") + failure->description + QLatin1Char(')'));
+        }
+    }
 }
 
 }  // namespace

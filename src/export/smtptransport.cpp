@@ -94,7 +94,8 @@ SmtpTransport::SmtpTransport(const MailAccount& account, QString password)
     if (account.tls && account.starttls) {
         curl_easy_setopt(curl, CURLOPT_USE_SSL, static_cast<long>(CURLUSESSL_ALL));
     }
-    if (!account.trustFile.isEmpty()) {
+    // "system" is the system's certificates, which the library trusts unless told otherwise.
+    if (!account.trustFile.isEmpty() && account.trustFile != QStringLiteral("system")) {
         curl_easy_setopt(curl, CURLOPT_CAINFO, account.trustFile.toLocal8Bit().constData());
     }
     if (!account.certCheck) {

@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 namespace {
 
 const QString kSubject = QStringLiteral("Расписание · 一月 2027 — a subject long enough to fold");
@@ -32,16 +34,23 @@ protected:
             QStringLiteral("account office\nhost 127.0.0.1\nfrom d@example.org\n") + account);
         const QString office = work.filePath(QStringLiteral("office.dko"));
         QString text = fileText(QStringLiteral(DESKO_EXAMPLES_DIR "/office/Example Office.dko"));
+        for (const auto& [from, to] : changes) {
+            text.replace(from, to);
+        }
         writeTextFile(office, text.replace(QStringLiteral("Subject=January 2027 Desko Schedule"),
                                            QStringLiteral("Subject=") + kSubject));
         QProcess tool;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("DESKO_HOME"), home.path());
+        env.insert(QStringLiteral("HOME"), home.path());
         env.insert(QStringLiteral("DESKO_MAIL_CONFIG"), account.isNull() ? home.path() : config);
         env.insert(QStringLiteral("TZ"), QStringLiteral("Europe/Berlin"));
         tool.setProcessEnvironment(env);
-        tool.start(QStringLiteral(DESKO_CLI_PATH), QStringList{QStringLiteral("export"), office} +
-                                                       texts({"--email", "--calendar"}) + more);
+        const QStringList command =
+            launcher +
+            QStringList{QStringLiteral(DESKO_CLI_PATH), QStringLiteral("export"), office} +
+            texts({"--email", "--calendar"}) + more;
+        tool.start(command.front(), command.mid(1));
         EXPECT_TRUE(tool.waitForFinished(60000));
         EXPECT_EQ(tool.exitCode(), 0);
         return QString::fromUtf8(tool.readAllStandardError());
@@ -55,6 +64,10 @@ protected:
         return messages;
     }
 
+    // Changes made to the office's file before it is exported, in turn.
+    QList<std::pair<QString, QString>> changes;
+    // What runs the tool, as a command and its first arguments; nothing for the tool alone.
+    QStringList launcher;
     QTemporaryDir home;
     QTemporaryDir work;
     const QString file = work.filePath(QStringLiteral("received.jsonl"));
@@ -87,7 +100,9 @@ TEST_F(MailExport, ReachesARealServerOverOneConnection) {
                m[u"to"].toString() == u"wei.chen@example.org";
     });
     ASSERT_NE(chen, messages.end());
-    EXPECT_EQ(QJsonDocument((*chen)[u"calendar"].toObject()).toJson(QJsonDocument::Compact),
+    QJsonObject calendar = (*chen)[u"calendar"].toObject();
+    calendar.remove(u"sequence");  // the export's own
+    EXPECT_EQ(QJsonDocument(calendar).toJson(QJsonDocument::Compact),
               R"({"attendee":"mailto:wei.chen@example.org","end":"2027-01-06T20:00:00+01:00",)"
               R"("method":"REQUEST","organizer":"mailto:d@example.org","rsvp":"FALSE",)"
               R"("start":"2027-01-06T16:00:00+01:00","timezones":1,"typeMethod":"REQUEST",)"
@@ -97,7 +112,10 @@ TEST_F(MailExport, ReachesARealServerOverOneConnection) {
 
 // TLS and a login as the account asks; a server that refuses, drops or stays silent; an
 // account that cannot be opened; an outbox instead of a server. Each failed message is a
-// results line, the export runs to its end in seconds, and no password is ever told.
+// results line, the export runs to its end in seconds, and no password is ever told. The
+// account as msmtp reads it: "tls_trust_file system" trusts the system's certificates, which
+// know nothing of the server's own; without a password line the password comes from the
+// desktop's keyring (a gnome-keyring of the test's own), else from ~/.netrc.
 TEST_F(MailExport, GoesOnPastEveryFailure) {
     const QString cert = work.filePath(QStringLiteral("cert.pem"));
     const QString key = work.filePath(QStringLiteral("key.pem"));
@@ -111,16 +129,21 @@ TEST_F(MailExport, GoesOnPastEveryFailure) {
     const QString tls = QStringLiteral("tls on\ntls_trust_file %1\nauth on\nuser desk\n").arg(cert);
     const QStringList secure =
         QStringList{QStringLiteral("--tls"), cert, key} + texts({"--login", "desk", "s3cret"});
+    // Each export runs the password command once, however often the session is opened.
+    const QString counted =
+        QStringLiteral("passwordeval echo run >>%1; ").arg(work.filePath(QStringLiteral("runs")));
     const QString outbox = work.filePath(QStringLiteral("outbox"));
     const struct {
         QStringList server;
         QString account;  // after the port line; a null text for no configuration at all
         QStringList more;
         int received;
-        const char* told;  // on standard error
-        int failures;      // results lines in all
+        const char* told;               // on standard error
+        int failures;                   // results lines in all
+        const char* keyring = nullptr;  // the keyring's password; nullptr: no keyring at all
+        const char* netrc = "";
     } cases[] = {
-        {secure, tls + QStringLiteral("passwordeval echo s3cret\n"), {}, 136, "", 0},
+        {secure, tls + counted + QStringLiteral("echo s3cret\n"), {}, 136, "", 0},
         {secure,
          tls + QStringLiteral("password wr0ng\n"),
          {},
@@ -141,16 +164,39 @@ TEST_F(MailExport, GoesOnPastEveryFailure) {
          1},
         {texts({"--silent"}), QStringLiteral("timeout 1\n"), {}, 0, "erik.svensson", 24},
         {{},
-         QStringLiteral("passwordeval exit 3\n"),
+         QStringLiteral("auth on\n") + counted + QStringLiteral("exit 3\n"),
          {},
          0,
          "(The password command of the mail account \"office\" failed)",
          24},
         {{}, QString(), {}, 0, "No MAPI profiles could be found on this system.", 0},
         {{}, QStringLiteral(""), {QStringLiteral("--outbox"), outbox}, 0, "", 0},
+        {secure,
+         QStringLiteral("tls on\ntls_trust_file system\n"),
+         {},
+         0,
+         "(SSL certificate problem: self-signed certificate)",
+         24,
+         ""},
+        {secure, tls, {}, 136, "", 0, "s3cret", "machine 127.0.0.1 login desk password wr0ng"},
+        {secure,
+         tls,
+         {},
+         136,
+         "",
+         0,
+         "",
+         "machine 127.0.0.1 login other password wr0ng\nmachine 127.0.0.1\n login desk password "
+         "s3cret"},
+        {secure, tls, {}, 0, "(No password for the mail account \"office\" was found in", 24, ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.server.join(u' ').toStdString() + c.account.toStdString());
+        writeTextFile(home.filePath(QStringLiteral(".netrc")), QString::fromUtf8(c.netrc));
+        launcher = c.keyring == nullptr
+                       ? QStringList()
+                       : texts({"dbus-run-session", "--", "sh", DESKO_KEYRING_SCRIPT, "127.0.0.1",
+                                "desk", c.keyring});
         MailServer server(file, c.server);
         const QString err = exportOffice(
             c.account.isNull() ? QString()
@@ -161,10 +207,87 @@ TEST_F(MailExport, GoesOnPastEveryFailure) {
         EXPECT_EQ(err.count(QStringLiteral("\nFailed to ")), c.failures);
         EXPECT_FALSE(err.contains(u"wr0ng") || err.contains(u"s3cret"));
     }
+    EXPECT_EQ(fileText(work.filePath(QStringLiteral("runs"))), QStringLiteral("run\nrun\n"));
     // The outbox holds each message that would have gone, in sending order.
     const QStringList sent = QDir(outbox).entryList(QDir::Files, QDir::Name);
     ASSERT_EQ(sent.size(), 136);
     EXPECT_EQ(sent.back(), QStringLiteral("0136.eml"));
     EXPECT_TRUE(fileText(QDir(outbox).filePath(sent[0]))
                     .contains(QStringLiteral("\r\nTo: patrick.brennan@example.org\r\n")));
+}
+
+// After an export, a change and another export, each attendee's calendar (the messages applied
+// in order, a version lower than the one held passed over) holds exactly what a first export of
+// the final schedule would put there: the shift given to another agent and every appointment at
+// the address an agent left are cancelled before the requests, and the shift whose time changed
+// moves, all at a version above the first export's, though both ran within the same minute.
+TEST_F(MailExport, LeavesEachCalendarHoldingTheFinalSchedule) {
+    using Calendars = QMap<QString, QMap<QString, QString>>;  // attendee, appointment: times
+    MailServer server(file, {});
+    const QString account = QStringLiteral("port %1\n").arg(server.port);
+    QMap<QString, int> versions;
+    // Applies the messages from the one given on: the lowest version among them, and their
+    // methods in turn, C for a cancellation and R for a request.
+    const auto apply = [&](Calendars& calendars, qsizetype from) {
+        int lowest = INT_MAX;
+        QString methods;
+        for (const QJsonObject& message : received().mid(from)) {
+            const QJsonObject event = message[u"calendar"].toObject();
+            const QString uid = event[u"uid"].toString();
+            const int version = event[u"sequence"].toInt();
+            if (event.isEmpty() || version < versions.value(uid)) {
+                continue;
+            }
+            lowest = std::min(lowest, versions[uid] = version);
+            methods += event[u"method"].toString().front();
+            QMap<QString, QString>& calendar = calendars[event[u"attendee"].toString()];
+            calendar.insert(uid, event[u"start"].toString() + u' ' + event[u"end"].toString());
+            if (methods.endsWith(u'C')) {
+                calendar.remove(uid);
+            }
+        }
+        calendars.removeIf([](const auto& calendar) { return calendar.value().isEmpty(); });
+        return std::pair{lowest, methods};
+    };
+    Calendars calendars;
+    exportOffice(account);
+    const int firstVersion = apply(calendars, 0).first;
+    const qsizetype firstCount = received().size();
+    changes = {{QStringLiteral("16=5|1|1|Brennan"), QStringLiteral("16=5|1|1|Chen")},
+               {QStringLiteral("erik.svensson@"), QStringLiteral("erik.s@")},
+               {QStringLiteral("1=9am-5pm|1"), QStringLiteral("1=9am-3pm|1")}};
+    exportOffice(account);
+    const auto [secondVersion, methods] = apply(calendars, firstCount);
+    EXPECT_GT(secondVersion, firstVersion);
+    const qsizetype moved = calendars.value(QStringLiteral("mailto:erik.s@example.org")).size();
+    EXPECT_EQ(methods, QString(1 + moved, u'C') + QString(124, u'R'));
+
+    // A first export of the final schedule, with no memory of the earlier ones.
+    ASSERT_TRUE(QFile::remove(home.filePath(QStringLiteral("Desko40.requests"))));
+    versions.clear();
+    const qsizetype secondCount = received().size();
+    exportOffice(account);
+    Calendars fresh;
+    apply(fresh, secondCount);
+    EXPECT_EQ(calendars, fresh);
+    EXPECT_EQ(fresh.size(), 12);
+}
+
+// The calendar files of an office with a shift whose time cannot be read and a "Leave empty"
+// cell, as python3-icalendar reads them beside the meeting requests of the same export: a file
+// per agent and one for the office, each publishing exactly its shifts in the local zone with
+// the requests' appointments and times, the unreadable shift as a day's event.
+TEST_F(MailExport, WritesCalendarFilesAsTheRequestsHaveThem) {
+    changes = {{QStringLiteral("16=5|1|1|Brennan"), QStringLiteral("16=5|1|1|Leave empty")},
+               {QStringLiteral("1=9am-5pm|1"), QStringLiteral("1=All day|1")}};
+    const QString outbox = work.filePath(QStringLiteral("outbox"));
+    const QString ics = work.filePath(QStringLiteral("calendars"));
+    exportOffice(QStringLiteral(""),
+                 {QStringLiteral("--outbox"), outbox, QStringLiteral("--ics"), ics});
+    QProcess reader;
+    reader.start(QStringLiteral("/usr/bin/python3"),
+                 {QStringLiteral(DESKO_ICS_READER), ics, outbox});
+    ASSERT_TRUE(reader.waitForFinished(60000));
+    EXPECT_EQ(QString::fromUtf8(reader.readAllStandardOutput()),
+              fileText(QStringLiteral(DESKO_ICS_GOLDEN)));
 }

@@ -23,7 +23,8 @@ def calendar_of(part):
             "timezones": len([c for c in calendar.walk() if c.name == "VTIMEZONE"]),
             "start": event.decoded("DTSTART").isoformat(), "end": event.decoded("DTEND").isoformat(),
             "attendee": str(event["ATTENDEE"]), "rsvp": event["ATTENDEE"].params.get("RSVP"),
-            "organizer": str(event["ORGANIZER"]), "uid": str(event["UID"])}
+            "organizer": str(event["ORGANIZER"]), "uid": str(event["UID"]),
+            "sequence": int(event.get("SEQUENCE", 0))}
 
 
 class Handler:

@@ -66,6 +66,10 @@ std::optional<QString> ScriptedDialogs::saveFileDialog(const FileDialog& request
     return fileDialog(FileKind::Save, request);
 }
 
+std::optional<QString> ScriptedDialogs::folderDialog(const FileDialog& request) {
+    return fileDialog(FileKind::Folder, request);
+}
+
 namespace {
 
 // The next of the scripted answers, nothing when they have run out.

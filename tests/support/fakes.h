@@ -53,7 +53,7 @@ public:
         MsgButtons buttons;
         int defaultButton;
     };
-    enum class FileKind { Open, Save };
+    enum class FileKind { Open, Save, Folder };
     struct FileShown {
         FileKind kind;
         FileDialog request;
@@ -81,6 +81,7 @@ public:
     double textWidth(const QString& text) const override { return 7.0 * text.size(); }
     std::optional<QString> openFileDialog(const FileDialog& request) override;
     std::optional<QString> saveFileDialog(const FileDialog& request) override;
+    std::optional<QString> folderDialog(const FileDialog& request) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& proposal) override;
     std::optional<int> chooseItem(const QString& prompt, const QStringList& items) override;
 

@@ -36,6 +36,9 @@ public:
     // The chosen file's full name, or nothing when the user cancelled.
     virtual std::optional<QString> openFileDialog(const FileDialog&) { return std::nullopt; }
     virtual std::optional<QString> saveFileDialog(const FileDialog&) { return std::nullopt; }
+    // The chosen folder, from the title and the initial folder of the request; nothing when
+    // the user cancelled.
+    virtual std::optional<QString> folderDialog(const FileDialog&) { return std::nullopt; }
     // An input box with the prompt and a proposed answer, and no title of its own: the text
     // given, or nothing when the user cancelled.
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& proposal) {

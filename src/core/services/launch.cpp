@@ -10,20 +10,19 @@
 
 namespace {
 
-// The mail configuration as msmtp finds it: its XDG file when that exists, else ~/.msmtprc.
+// The mail configuration as msmtp finds it: ~/.msmtprc when that exists, else its XDG file
+// when that exists, else ~/.msmtprc all the same.
 QString mailConfigPath() {
     if (QString path = qEnvironmentVariable("DESKO_MAIL_CONFIG"); !path.isEmpty()) {
         return path;
     }
+    const QString msmtprc = QDir::homePath() + QStringLiteral("/.msmtprc");
     QString configHome = qEnvironmentVariable("XDG_CONFIG_HOME");
     if (configHome.isEmpty()) {
         configHome = QDir::homePath() + QStringLiteral("/.config");
     }
     const QString xdg = configHome + QStringLiteral("/msmtp/config");
-    if (QFileInfo(xdg).isFile()) {
-        return xdg;
-    }
-    return QDir::homePath() + QStringLiteral("/.msmtprc");
+    return !QFileInfo::exists(msmtprc) && QFileInfo(xdg).isFile() ? xdg : msmtprc;
 }
 
 // The data folder that an installation put beside the program's folder, as share/desko40

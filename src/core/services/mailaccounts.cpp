@@ -2,7 +2,7 @@
 
 #include "core/services/textfile.h"
 
-#include <QProcess>
+#include <QDir>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -53,7 +53,10 @@ void apply(MailAccount& account, const QString& keyword, const QString& argument
     } else if (keyword == QStringLiteral("from")) {
         account.from = argument;
     } else if (keyword == QStringLiteral("tls_trust_file")) {
-        account.trustFile = argument;
+        // A leading ~/ stands for the home folder, as in msmtp's file names.
+        account.trustFile = argument.startsWith(QStringLiteral("~/"))
+                                ? QDir::homePath() + argument.mid(1)
+                                : argument;
     } else if (keyword == QStringLiteral("tls_certcheck")) {
         account.certCheck = switchOf(argument);
     } else if (keyword == QStringLiteral("timeout")) {
@@ -137,9 +140,6 @@ std::optional<MailAccount> usable(const MailAccount* account) {
     return *account;
 }
 
-// A password command gets this long, time enough to ask for a key's passphrase.
-constexpr int kPasswordEvalMs = 60000;
-
 }  // namespace
 
 std::optional<MailAccount> defaultMailAccount(const QString& configPath) {
@@ -157,33 +157,6 @@ std::optional<MailAccount> defaultMailAccount(const QString& configPath) {
 std::optional<MailAccount> mailAccountNamed(const QString& configPath, const QString& name) {
     const std::optional<MailConfig> config = readMailConfig(configPath);
     return config ? usable(accountNamed(config->accounts, name)) : std::nullopt;
-}
-
-std::optional<QString> accountPassword(const MailAccount& account) {
-    if (!account.password.isEmpty() || account.passwordEval.isEmpty()) {
-        return account.password;
-    }
-    QProcess command;
-    command.setStandardErrorFile(QProcess::nullDevice());
-    command.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), account.passwordEval});
-    command.closeWriteChannel();
-    if (!command.waitForFinished(kPasswordEvalMs)) {
-        command.kill();
-        command.waitForFinished();
-        return std::nullopt;
-    }
-    if (command.exitStatus() != QProcess::NormalExit || command.exitCode() != 0) {
-        return std::nullopt;
-    }
-    const QString output = QString::fromUtf8(command.readAllStandardOutput());
-    QString line = output.section(QLatin1Char('\n'), 0, 0);
-    if (line.endsWith(QLatin1Char('\r'))) {
-        line.chop(1);
-    }
-    if (line.isEmpty()) {
-        return std::nullopt;
-    }
-    return line;
 }
 
 void readMailFacts(Environment& env, const QString& configPath) {

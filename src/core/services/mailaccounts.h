@@ -20,7 +20,7 @@ struct MailAccount {
     QString password;
     QString passwordEval;  // a command whose first line of output is the password
     QString from;
-    QString trustFile;  // certificates to trust instead of the system's
+    QString trustFile;  // certificates to trust; empty or "system": the system's
     bool certCheck = true;
     int timeout = 0;  // seconds a server may stay silent; 0: the program's own limit
 
@@ -50,8 +50,3 @@ void readMailFacts(Environment& env, const QString& configPath);
 
 // The account of that name in the configuration file, if it has a host.
 std::optional<MailAccount> mailAccountNamed(const QString& configPath, const QString& name);
-
-// The account's password: the one written in the file, else the first line that its
-// passwordeval command prints; nothing when that command fails or prints nothing. An account
-// with neither has the empty password.
-std::optional<QString> accountPassword(const MailAccount& account);

@@ -280,6 +280,8 @@ void frmMain::buildMenus() {
     mnuFEEmail = makeItem(mnuFExport, "mnuFEEmail", QStringLiteral("E-&mail"));
     mnuFEOutlook = makeItem(mnuFExport, "mnuFEOutlook", QStringLiteral("&Outlook calendar"));
     mnuFECreator = makeItem(mnuFExport, "mnuFECreator", QStringLiteral("Calendar C&reator"));
+    mnuFSaveIcs =
+        makeItem(mnuFile, "mnuFSaveIcs", QStringLiteral("Save calendars as &iCalendar files..."));
     makeSeparator(mnuFile, "mnuSep1");
     mnuFExit = makeItem(mnuFile, "mnuFExit", QStringLiteral("E&xit"));
 

@@ -82,6 +82,7 @@ public:
     void mnuFNew_Click();
     void mnuFOpen_Click();
     void mnuFSaveAs_Click();
+    void mnuFSaveIcs_Click();
 
     void cmdGenerate_Click();
     void cmdViewEdit_Click();
@@ -154,6 +155,7 @@ public:
     QAction* mnuFEEmail;
     QAction* mnuFEOutlook;
     QAction* mnuFECreator;
+    QAction* mnuFSaveIcs;
     QAction* mnuFExit;
     QMenu* mnuEdit;
     QAction* mnuESchedule;

@@ -7,6 +7,7 @@
 #include "core/forms/formkit.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
+#include "export/calendarfiles.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "printing/forms/frmPSetup.h"
 #include "shell/filecommands.h"
@@ -48,6 +49,7 @@ void frmMain::connectCommands() {
     connect(mnuFOpen, &QAction::triggered, this, [this] { mnuFOpen_Click(); });
     connect(mnuFSaveAs, &QAction::triggered, this, [this] { mnuFSaveAs_Click(); });
     connect(mnuFExit, &QAction::triggered, this, [this] { mnuFExit_Click(); });
+    connect(mnuFSaveIcs, &QAction::triggered, this, [this] { mnuFSaveIcs_Click(); });
 
     connect(cmdViewEdit, &QPushButton::clicked, this, [this] { cmdViewEdit_Click(); });
     connect(mnuESchedule, &QAction::triggered, this, [this] { openViewForm(ViewForm::Schedule); });
@@ -121,6 +123,8 @@ void frmMain::mnuFExit_Click() {
 // Until a file was opened or saved, or something changed, there is nothing worth saving.
 void frmMain::mnuFile_Click() {
     mnuFSaveAs->setEnabled(ws_.gDirty.has_value());
+    // Calendars are made of a generated schedule, as the export's are.
+    mnuFSaveIcs->setEnabled(ws_.gScheduleGenerated == 1);
 }
 
 void frmMain::mnuFNew_Click() {
@@ -133,6 +137,10 @@ void frmMain::mnuFOpen_Click() {
 
 void frmMain::mnuFSaveAs_Click() {
     saveScheduleAs(ws_, ctx_, *this);
+}
+
+void frmMain::mnuFSaveIcs_Click() {
+    saveCalendarsAsIcs(ws_, ctx_);
 }
 
 void frmMain::vscDate_Change() {

@@ -163,11 +163,13 @@ QStringList nameFilters(const QString& filter) {
 // Both dialogs take any name typed: the open dialog lets a name that is not there through to
 // the reading of the file, which tells the user what it could not read.
 std::optional<QString> runFileDialog(const FileDialog& request, QFileDialog::AcceptMode mode,
-                                     QWidget* parent) {
+                                     QWidget* parent,
+                                     QFileDialog::FileMode fileMode = QFileDialog::AnyFile) {
     const NormalPointerWhileAsking pointer;
     QFileDialog dialog(parent, request.title, request.initialDir);
     dialog.setAcceptMode(mode);
-    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setFileMode(fileMode);
+    dialog.setOption(QFileDialog::ShowDirsOnly, fileMode == QFileDialog::Directory);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.promptOverwrite);
     const QStringList filters = nameFilters(request.filter);
     if (!filters.isEmpty()) {
@@ -218,6 +220,10 @@ std::optional<QString> QtDialogs::openFileDialog(const FileDialog& request) {
 
 std::optional<QString> QtDialogs::saveFileDialog(const FileDialog& request) {
     return runFileDialog(request, QFileDialog::AcceptSave, parent_);
+}
+
+std::optional<QString> QtDialogs::folderDialog(const FileDialog& request) {
+    return runFileDialog(request, QFileDialog::AcceptOpen, parent_, QFileDialog::Directory);
 }
 
 std::optional<QString> QtDialogs::inputBox(const QString& prompt, const QString& proposal) {

@@ -14,6 +14,7 @@ public:
     double textWidth(const QString& text) const override;
     std::optional<QString> openFileDialog(const FileDialog& request) override;
     std::optional<QString> saveFileDialog(const FileDialog& request) override;
+    std::optional<QString> folderDialog(const FileDialog& request) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& proposal) override;
     std::optional<int> chooseItem(const QString& prompt, const QStringList& items) override;
 

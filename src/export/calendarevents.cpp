@@ -1,9 +1,12 @@
-#include "export/meetingrequest.h"
+#include "export/calendarevents.h"
 
 #include <QRegularExpression>
 #include <QTimeZone>
 
 #include <libical/ical.h>
+
+#include <algorithm>
+#include <climits>
 
 namespace {
 
@@ -24,15 +27,28 @@ icaltimetype floatingTime(const QDateTime& time) {
     return result;
 }
 
-// The version of an appointment: the minutes since 2000 at the export, so that each later
-// export numbers its requests higher.
-int sequenceOf(const QDateTime& stamp) {
-    const QDateTime epoch(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC);
-    return static_cast<int>(std::max<qint64>(0, epoch.secsTo(stamp) / 60));
-}
-
 QByteArray mailto(const QString& address) {
     return "mailto:" + address.toUtf8();
+}
+
+icaltimetype dateOnly(const QDate& date) {
+    icaltimetype result = icaltime_null_date();
+    result.year = date.year();
+    result.month = date.month();
+    result.day = date.day();
+    return result;
+}
+
+icalproperty_method methodOf(CalendarMethod method) {
+    switch (method) {
+        case CalendarMethod::Request:
+            return ICAL_METHOD_REQUEST;
+        case CalendarMethod::Cancel:
+            return ICAL_METHOD_CANCEL;
+        case CalendarMethod::Publish:
+            break;
+    }
+    return ICAL_METHOD_PUBLISH;
 }
 
 // One period of a zone's offset: from the wall-clock time of its onset, as the clocks
@@ -78,8 +94,15 @@ icalcomponent* zoneDescription(const QTimeZone& zone, const QByteArray& id, cons
 
 }  // namespace
 
-MeetingRequestBuilder::MeetingRequestBuilder(const QDateTime& stamp, const QDate& firstDay)
-    : stamp_(stamp.toUTC()) {
+int nextSequence(const QDateTime& now, int lastSequence) {
+    const QDateTime epoch(QDate(2000, 1, 1), QTime(0, 0), Qt::UTC);
+    const auto minutes =
+        static_cast<int>(std::clamp<qint64>(epoch.secsTo(now) / 60, 0, INT_MAX - 1));
+    return std::max(minutes, lastSequence + 1);
+}
+
+CalendarBuilder::CalendarBuilder(const QDateTime& stamp, const QDate& firstDay, int sequence)
+    : stamp_(stamp.toUTC()), sequence_(sequence) {
     static const QRegularExpression plainId(QStringLiteral("^[A-Za-z0-9_+./-]+$"));
     const QTimeZone zone = QTimeZone::systemTimeZone();
     const QByteArray id = zone.id();
@@ -91,15 +114,16 @@ MeetingRequestBuilder::MeetingRequestBuilder(const QDateTime& stamp, const QDate
     vtimezone_ = zoneDescription(zone, id, firstDay.addDays(-1));
 }
 
-MeetingRequestBuilder::~MeetingRequestBuilder() {
+CalendarBuilder::~CalendarBuilder() {
     if (vtimezone_ != nullptr) {
         icalcomponent_free(vtimezone_);
     }
 }
 
-QByteArray MeetingRequestBuilder::build(const MeetingRequest& request) const {
+icalcomponent* CalendarBuilder::event(CalendarMethod method,
+                                      const CalendarEvent& appointment) const {
     const auto timeProperty = [&](icalproperty* (*make)(icaltimetype), int minutes) {
-        const QDateTime local(request.date, QTime(minutes / 60, minutes % 60));
+        const QDateTime local(appointment.date, QTime(minutes / 60, minutes % 60));
         if (vtimezone_ == nullptr) {
             return make(utcTime(local));
         }
@@ -108,27 +132,56 @@ QByteArray MeetingRequestBuilder::build(const MeetingRequest& request) const {
         return property;
     };
     icalcomponent* event = icalcomponent_vanew(
-        ICAL_VEVENT_COMPONENT, icalproperty_new_uid(request.uid.toUtf8().constData()),
-        icalproperty_new_dtstamp(utcTime(stamp_)), icalproperty_new_sequence(sequenceOf(stamp_)),
-        icalproperty_new_organizer(mailto(request.organizer).constData()),
-        icalproperty_vanew_attendee(mailto(request.attendee).constData(),
-                                    icalparameter_new_role(ICAL_ROLE_REQPARTICIPANT),
-                                    icalparameter_new_partstat(ICAL_PARTSTAT_NEEDSACTION),
-                                    icalparameter_new_rsvp(ICAL_RSVP_FALSE), nullptr),
-        timeProperty(icalproperty_new_dtstart, request.start),
-        timeProperty(icalproperty_new_dtend, request.end),
-        icalproperty_new_summary(request.summary.toUtf8().constData()), nullptr);
-    if (!request.description.isEmpty()) {
+        ICAL_VEVENT_COMPONENT, icalproperty_new_uid(appointment.uid.toUtf8().constData()),
+        icalproperty_new_dtstamp(utcTime(stamp_)), icalproperty_new_sequence(sequence_), nullptr);
+    if (!appointment.organizer.isEmpty()) {
         icalcomponent_add_property(
-            event, icalproperty_new_description(request.description.toUtf8().constData()));
+            event, icalproperty_new_organizer(mailto(appointment.organizer).constData()));
     }
+    if (!appointment.attendee.isEmpty()) {
+        icalproperty* attendee =
+            icalproperty_vanew_attendee(mailto(appointment.attendee).constData(),
+                                        icalparameter_new_role(ICAL_ROLE_REQPARTICIPANT),
+                                        icalparameter_new_partstat(ICAL_PARTSTAT_NEEDSACTION),
+                                        icalparameter_new_rsvp(ICAL_RSVP_FALSE), nullptr);
+        if (!appointment.attendeeName.isEmpty()) {
+            icalproperty_add_parameter(
+                attendee, icalparameter_new_cn(appointment.attendeeName.toUtf8().constData()));
+        }
+        icalcomponent_add_property(event, attendee);
+    }
+    if (appointment.allDay) {
+        icalcomponent_add_property(event, icalproperty_new_dtstart(dateOnly(appointment.date)));
+        icalcomponent_add_property(event,
+                                   icalproperty_new_dtend(dateOnly(appointment.date.addDays(1))));
+    } else {
+        icalcomponent_add_property(event,
+                                   timeProperty(icalproperty_new_dtstart, appointment.start));
+        icalcomponent_add_property(event, timeProperty(icalproperty_new_dtend, appointment.end));
+    }
+    icalcomponent_add_property(event,
+                               icalproperty_new_summary(appointment.summary.toUtf8().constData()));
+    if (!appointment.description.isEmpty()) {
+        icalcomponent_add_property(
+            event, icalproperty_new_description(appointment.description.toUtf8().constData()));
+    }
+    if (method == CalendarMethod::Cancel) {
+        icalcomponent_add_property(event, icalproperty_new_status(ICAL_STATUS_CANCELLED));
+    }
+    return event;
+}
+
+QByteArray CalendarBuilder::build(CalendarMethod method,
+                                  const std::vector<CalendarEvent>& events) const {
     icalcomponent* calendar = icalcomponent_vanew(
         ICAL_VCALENDAR_COMPONENT, icalproperty_new_prodid("-//Desko//Desko 4.0//EN"),
-        icalproperty_new_version("2.0"), icalproperty_new_method(ICAL_METHOD_REQUEST), nullptr);
+        icalproperty_new_version("2.0"), icalproperty_new_method(methodOf(method)), nullptr);
     if (vtimezone_ != nullptr) {
         icalcomponent_add_component(calendar, icalcomponent_new_clone(vtimezone_));
     }
-    icalcomponent_add_component(calendar, event);
+    for (const CalendarEvent& appointment : events) {
+        icalcomponent_add_component(calendar, event(method, appointment));
+    }
     char* text = icalcomponent_as_ical_string_r(calendar);
     const QByteArray result(text);
     icalmemory_free_buffer(text);
