@@ -31,12 +31,16 @@ void rerunFromAgent(Workspace& ws, Context& ctx, int engine, int listIndex) {
     }
 }
 
-QString shiftFrameCaption(const Workspace& ws, int weekday, int shift) {
+QString shiftWord(int shift) {
     static const std::array<QString, kDayEditorShifts> words = {
-        QStringLiteral("First shift: "), QStringLiteral("Second shift: "),
-        QStringLiteral("Third shift: "), QStringLiteral("Fourth shift: "),
-        QStringLiteral("Fifth shift: "), QStringLiteral("Sixth shift: ")};
-    return words[static_cast<std::size_t>(shift - 1)] + ws.gShiftText[weekday][shift];
+        QStringLiteral("First shift"), QStringLiteral("Second shift"),
+        QStringLiteral("Third shift"), QStringLiteral("Fourth shift"),
+        QStringLiteral("Fifth shift"), QStringLiteral("Sixth shift")};
+    return words[static_cast<std::size_t>(shift - 1)];
+}
+
+QString shiftFrameCaption(const Workspace& ws, int weekday, int shift) {
+    return shiftWord(shift) + QStringLiteral(": ") + ws.gShiftText[weekday][shift];
 }
 
 void storeDay(Workspace& ws, int day, const DayLists& lists) {

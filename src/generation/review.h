@@ -17,6 +17,9 @@ QString holidayMessage(const Workspace& ws, int day);
 // over every position, changes by hand included.
 void rerunFromAgent(Workspace& ws, Context& ctx, int engine, int listIndex);
 
+// The word for a shift of a day, 1 to 6: "First shift" to "Sixth shift".
+QString shiftWord(int shift);
+
 // The day editor's frame of a shift: "First shift: " and the shift's time text.
 QString shiftFrameCaption(const Workspace& ws, int weekday, int shift);
 

@@ -1,12 +1,13 @@
 #include "constraints/forms/frmHolidays.h"
 
 #include "core/forms/formkit.h"
+#include "core/forms/monthcells.h"
+#include "core/model/daycaption.h"
 #include "core/model/workspace.h"
 #include "core/services/context.h"
 #include "core/services/log.h"
 #include "persistence/workspacefile.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr QSize kCellSize(72, 52);
 constexpr int kFirstCellRow = 1;
 
 }  // namespace
@@ -34,33 +34,37 @@ frmHolidays::frmHolidays(Workspace& ws, Context& ctx, MainForm& main, FaceWindow
     labMonth->setFont(large);
     labMonth->setAlignment(Qt::AlignCenter);
 
-    grid_ = new QGridLayout;
-    grid_->setSpacing(2);
+    auto* grid = new QGridLayout;
+    grid->setSpacing(2);
     const char* heads[] = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
     for (int c = 0; c < 7; ++c) {
         labDayTitle[c] = makeLabel(fraMonth, "", QLatin1String(heads[c]));
         labDayTitle[c]->setObjectName(indexedName("labDayTitle", c));
         labDayTitle[c]->setAlignment(Qt::AlignCenter);
-        grid_->addWidget(labDayTitle[c], 0, c);
-        grid_->setColumnMinimumWidth(c, kCellSize.width());
+        grid->addWidget(labDayTitle[c], 0, c);
+        grid->setColumnStretch(c, 1);
     }
+    // A cell holds its day's number on its second line, with room around it.
+    const QFontMetrics metrics = fontMetrics();
+    const QSize leastCell(4 * metrics.horizontalAdvance(QStringLiteral("00")),
+                          3 * metrics.lineSpacing());
+    std::array<QWidget*, kCells> boxes{};
     for (int i = 0; i < kCells; ++i) {
         labDay[i] = makeLabel(fraMonth, "", QString());
         labDay[i]->setObjectName(indexedName("labDay", i));
-        labDay[i]->setFixedSize(kCellSize);
         labDay[i]->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         labDay[i]->setMargin(4);
+        labDay[i]->setMinimumSize(leastCell + QSize(8, 8));
         labDay[i]->setAutoFillBackground(true);
         labDay[i]->setFrameShape(QFrame::Panel);
         labDay[i]->setFrameShadow(QFrame::Raised);
         labDay[i]->installEventFilter(this);
-        labDay[i]->hide();
-        grid_->addWidget(labDay[i], kFirstCellRow + i / 7, i % 7);
+        boxes[i] = labDay[i];
     }
+    days_ = new MonthCells(grid, kFirstCellRow, boxes, [this](int i) { labDay_MouseDown(i); });
     auto* month = new QVBoxLayout(fraMonth);
     month->addWidget(labMonth);
-    month->addLayout(grid_);
-    month->addStretch();
+    month->addLayout(grid, 1);
 
     cmbAgent = makeDropDown(this, QStringLiteral("cmbAgent"), QStringLiteral("Agent"));
     cmbAgent->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -70,13 +74,8 @@ frmHolidays::frmHolidays(Workspace& ws, Context& ctx, MainForm& main, FaceWindow
     cmdOK = makeButton(this, "cmdOK", QStringLiteral("&OK"));
     cmdCancel = makeButton(this, "cmdCancel", QStringLiteral("&Cancel"));
 
-    auto* centre = new QHBoxLayout;
-    centre->addStretch();
-    centre->addWidget(fraMonth);
-    centre->addStretch();
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(centre);
-    layout->addStretch();
+    layout->addWidget(fraMonth, 1);
     layout->addLayout(closingRow(this, cmbAgent, cmdOK, cmdCancel));
 
     connect(cmbAgent, &QComboBox::activated, this, [this] { cmbAgent_Click(); });
@@ -88,9 +87,6 @@ void frmHolidays::Form_Load() {
     modStatus(ws_, ctx_, dayPickerOpenLine(ws_));
     setWindowTitle(main_.windowTitle());
     setEnabledAll({cmdOK, cmdCancel}, true);
-    // A month of five weeks leaves out the sixth row.
-    grid_->setRowMinimumHeight(kFirstCellRow + 5,
-                               ws_.gCalendarSixRows == 0 ? 0 : kCellSize.height());
     labMonth->setText(ws_.currentMonthAndYear());
     fraMonth->setTitle(dayPickerCaption(ws_));
     const bool vacations = ws_.gDayPickerMode == kPickVacations;
@@ -123,30 +119,24 @@ bool frmHolidays::Form_Unload() {
 
 void frmHolidays::showDays() {
     const PickedDays picked = pickedDays(ws_);
+    days_->showMonth(ws_.gFirstWeekday, ws_.currentMonthDays());
     for (int i = 0; i < kCells; ++i) {
         const int day = i + 1 - ws_.gFirstWeekday;
-        const bool inMonth = day >= 1 && day <= ws_.currentMonthDays();
-        labDay[i]->setVisible(inMonth);
-        if (inMonth) {
+        if (day >= 1 && day <= ws_.currentMonthDays()) {
             labDay[i]->setText(QLatin1Char('\n') + QString::number(day));
-            labDay[i]->setAccessibleName(ws_.currentMonthName() + QLatin1Char(' ') +
-                                         QString::number(day));
+            labDay[i]->setAccessibleName(spokenDate(ws_, day));
             paintCell(i, picked[day]);
         }
     }
 }
 
-// A picked day stands out in the platform's selection colours; the others look like
-// buttons, which is what they are to the user.
+// A picked day stands out in the palette's selection colours; the others look like buttons,
+// which is what they are to the user.
 void frmHolidays::paintCell(int index, bool selected) {
     selected_[index] = selected;
     QLabel* cell = labDay[index];
-    const QPalette platform = QApplication::palette();
-    QPalette colours = cell->palette();
-    colours.setColor(QPalette::Window,
-                     platform.color(selected ? QPalette::Highlight : QPalette::Button));
-    colours.setColor(QPalette::WindowText, selected ? Qt::white : Qt::black);
-    cell->setPalette(colours);
+    cell->setBackgroundRole(selected ? QPalette::Highlight : QPalette::Button);
+    cell->setForegroundRole(selected ? QPalette::HighlightedText : QPalette::ButtonText);
     cell->setAccessibleDescription(selected ? QStringLiteral("picked") : QString());
 }
 
@@ -160,7 +150,7 @@ PickedDays frmHolidays::picks() const {
 }
 
 bool frmHolidays::eventFilter(QObject* watched, QEvent* event) {
-    if (isCellPress(event)) {
+    if (event->type() == QEvent::MouseButtonPress) {
         for (int i = 0; i < kCells; ++i) {
             if (watched == labDay[i]) {
                 labDay_MouseDown(i);

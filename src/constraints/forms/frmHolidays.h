@@ -5,8 +5,8 @@
 
 #include <array>
 
+class MonthCells;
 class QComboBox;
-class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QPushButton;
@@ -58,6 +58,6 @@ private:
     Workspace& ws_;
     Context& ctx_;
     MainForm& main_;
-    QGridLayout* grid_;
+    MonthCells* days_;
     std::array<bool, kCells> selected_{};
 };

@@ -15,7 +15,7 @@
 #include <QVBoxLayout>
 
 frmViewDay::frmViewDay(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window)
-    : Form(window), ws_(ws), ctx_(ctx), main_(main), window_(window) {
+    : Form(window), ws_(ws), ctx_(ctx), main_(main) {
     setObjectName(QStringLiteral("frmViewDay"));
     auto* days = new QGridLayout;
     for (int w = 0; w < kWeekdays; ++w) {
@@ -49,6 +49,7 @@ frmViewDay::frmViewDay(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& 
     connect(cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
     connect(cmdPrint, &QPushButton::clicked, this, [this] { cmdPrint_Click(); });
+    day_ = new frmDay(ws_, ctx_, *this, window);
 }
 
 void frmViewDay::Form_Load() {
@@ -79,9 +80,6 @@ void frmViewDay::Form_Deactivate() {
 void frmViewDay::cmdChange_Click(int weekday) {
     showHourglass();
     ws_.gEditDay = weekday;
-    if (day_ == nullptr) {
-        day_ = new frmDay(ws_, ctx_, *this, window_);
-    }
     day_->show();
     hide();
 }
@@ -102,16 +100,12 @@ void frmViewDay::cmdCancel_Click() {
     unload();
 }
 
-// The table on paper. While it prints the times are grey and the view's commands are dead.
+// The table on paper. While it prints the view's commands are dead, and the times in their
+// dead frames grey, in the palette's colour for dead text.
 void frmViewDay::cmdPrint_Click() {
     showHourglass();
     const auto setPrinting = [this](bool printing) {
         for (int w = 0; w < kWeekdays; ++w) {
-            for (QLabel* label : labShift[w]) {
-                QPalette colours = label->palette();
-                colours.setColor(QPalette::WindowText, printing ? Qt::darkGray : Qt::black);
-                label->setPalette(colours);
-            }
             setEnabledAll({fraDay[w], cmdChange[w]}, !printing);
         }
         setEnabledAll({cmdCancel, cmdPrint}, !printing);

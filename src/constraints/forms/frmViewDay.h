@@ -30,7 +30,7 @@ public:
     void cmdCancel_Click();
     void cmdPrint_Click();
 
-    // The weekday editor, once a weekday has been opened.
+    // The weekday editor, which takes the view's place while a weekday is open.
     frmDay* dayEditor() const { return day_; }
 
     std::array<QGroupBox*, kWeekdays> fraDay;
@@ -48,7 +48,6 @@ private:
     Workspace& ws_;
     Context& ctx_;
     MainForm& main_;
-    FaceWindow& window_;
     ShiftTableSnapshot snapshot_;
-    frmDay* day_ = nullptr;
+    frmDay* day_;
 };

@@ -12,8 +12,15 @@ constexpr QMargins kPadding(4, 2, 4, 2);
 
 DayCell::DayCell(const QString& widthSample, int lines, QWidget* parent) : QFrame(parent) {
     setFrameStyle(QFrame::Box | QFrame::Plain);
+    // A sheet of the calendar, in the palette's colours of text on its base.
+    setBackgroundRole(QPalette::Base);
+    setForegroundRole(QPalette::Text);
+    setAutoFillBackground(true);
     text = new ElidedLabel(this);
     number = new QLabel(this);
+    for (QLabel* label : {static_cast<QLabel*>(text), number}) {
+        label->setForegroundRole(QPalette::Text);
+    }
     QFont bold = font();
     bold.setBold(true);
     number->setFont(bold);
@@ -33,10 +40,10 @@ QSize DayCell::minimumSizeHint() const {
 }
 
 void DayCell::setMarked(bool marked) {
-    setAutoFillBackground(marked);
-    setBackgroundRole(marked ? QPalette::Highlight : QPalette::Window);
-    for (QWidget* label : {static_cast<QWidget*>(text), static_cast<QWidget*>(number)}) {
-        label->setForegroundRole(marked ? QPalette::HighlightedText : QPalette::WindowText);
+    setBackgroundRole(marked ? QPalette::Highlight : QPalette::Base);
+    for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(text),
+                          static_cast<QWidget*>(number)}) {
+        part->setForegroundRole(marked ? QPalette::HighlightedText : QPalette::Text);
     }
 }
 

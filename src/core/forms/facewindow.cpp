@@ -13,9 +13,9 @@
 
 namespace {
 
-// Room for the window's frame and title bar when its size is bounded by the screen; the
-// window system tells the real frame only once the window is on the screen.
-constexpr QSize kFrameAllowance(16, 48);
+// Room for the window's frame and title bar; the window system tells the real frame only
+// once the window is on the screen.
+constexpr QMargins kFrameAllowance(8, 40, 8, 8);
 
 }  // namespace
 
@@ -31,6 +31,7 @@ FaceWindow::FaceWindow() : QWidget(nullptr, Qt::Window) {
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidgetResizable(true);
     scroll_->setWidget(stage_);
+    stage_->installEventFilter(this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll_);
@@ -55,12 +56,37 @@ void FaceWindow::addFace(Form* face) {
 }
 
 void FaceWindow::fitFaces() {
-    QSize wanted = stage_->sizeHint().expandedTo(stage_->minimumSizeHint());
+    QSize least = stage_->minimumSizeHint();
+    QSize wanted = stage_->sizeHint().expandedTo(least);
     if (const QScreen* display = screen()) {
-        const QSize frame = isVisible() ? frameGeometry().size() - size() : kFrameAllowance;
-        wanted = wanted.boundedTo(display->availableGeometry().size() - frame);
+        const QSize room = (display->availableGeometry() - frameMargins()).size();
+        least = least.boundedTo(room);
+        wanted = wanted.boundedTo(room);
     }
-    setFixedSize(wanted);
+    setMinimumSize(least);
+    if (!isVisible() && !sized_) {
+        resize(wanted);
+        sized_ = true;
+    }
+}
+
+QMargins FaceWindow::frameMargins() const {
+    if (!isVisible()) {
+        return kFrameAllowance;
+    }
+    const QRect frame = frameGeometry();
+    const QRect inside = geometry();
+    return {inside.left() - frame.left(), inside.top() - frame.top(),
+            frame.right() - inside.right(), frame.bottom() - inside.bottom()};
+}
+
+// A face's controls changed the room they need: the window follows once the change is laid
+// out.
+bool FaceWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == stage_ && event->type() == QEvent::LayoutRequest) {
+        fitFaces();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 Form* FaceWindow::topFace() const {

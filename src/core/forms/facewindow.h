@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QWidget>
 
 #include <vector>
@@ -11,8 +12,9 @@ class QScrollArea;
 // The program's one top-level window; every form is a face of it. The faces lie on top of
 // each other, the one shown last on top, so that a form that is shown takes the place, the
 // size and the screen of the form before it, and the window carries the caption of the face
-// on top. The window is as large as its largest face asks, never larger than the screen's
-// available area; on a smaller screen the faces scroll, so that every control can be reached.
+// on top. The user sizes the window, maximises it and moves it; its least size is the room
+// its largest face needs, whatever that face shows, but never more than the screen's
+// available area: on a smaller screen the faces scroll, so that every control can be reached.
 class FaceWindow : public QWidget {
     Q_OBJECT
 
@@ -23,8 +25,14 @@ public:
 
     // Makes the form a face of this window, hidden until it is shown.
     void addFace(Form* face);
-    // Sizes the window for its faces, within the available area of its screen.
+    // Makes the room every face needs the window's least size, within the available area of
+    // its screen, and grows the window to it where it is smaller. A window not yet shown
+    // takes the size its faces ask for. A face that comes to need more room later, by a longer
+    // caption, fits the window to itself again.
     void fitFaces();
+    // What the desktop's frame adds around the window: as it stands once the window is on
+    // the screen, else room for a common frame and title bar.
+    QMargins frameMargins() const;
     // A face came on the screen: it goes on top and becomes the active one.
     void faceShown(Form* face);
     // A face left the screen: the one under it, if any, becomes the active one.
@@ -33,6 +41,7 @@ public:
 protected:
     // The window's close box closes the face on top.
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     // The visible face on top, or null.
@@ -46,4 +55,5 @@ private:
     QGridLayout* faces_;
     Form* active_ = nullptr;
     bool closing_ = false;
+    bool sized_ = false;
 };

@@ -9,7 +9,6 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -138,17 +137,6 @@ void onEscape(QWidget* scope, const std::function<void()>& action) {
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), scope);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     QObject::connect(escape, &QShortcut::activated, scope, action);
-}
-
-bool isCellPress(const QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
-        return true;
-    }
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<const QKeyEvent*>(event)->key();
-        return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space;
-    }
-    return false;
 }
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled) {

@@ -9,7 +9,6 @@ class Clock;
 class QAction;
 class QCheckBox;
 class QComboBox;
-class QEvent;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
@@ -49,10 +48,6 @@ QHBoxLayout* closingRow(QWidget* form, QWidget* left, QPushButton* ok, QPushButt
 
 // Escape, while the focus is in the scope, does what is given.
 void onEscape(QWidget* scope, const std::function<void()>& action);
-
-// A press on a calendar cell: a mouse button, or Return, Enter or Space while the cell has the
-// focus.
-bool isCellPress(const QEvent* event);
 
 void setEnabledAll(std::initializer_list<QWidget*> controls, bool enabled);
 

@@ -69,6 +69,12 @@ Launch launchFromEnvironment() {
                                  QStringLiteral("/desko/addressbook"));
     launch.pdfDir = variableOr("DESKO_PDF_DIR",
                                QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    // A state folder that is not given as an absolute path does not count.
+    QString stateHome = qEnvironmentVariable("XDG_STATE_HOME");
+    if (!QDir::isAbsolutePath(stateHome)) {
+        stateHome = QDir::homePath() + QStringLiteral("/.local/state");
+    }
+    launch.windowPlaceFile = stateHome + QStringLiteral("/desko/window.ini");
     return launch;
 }
 

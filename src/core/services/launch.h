@@ -24,12 +24,16 @@ struct Launch {
     QString addressBook;
     // The folder that the "Print to PDF" printer writes its files into.
     QString pdfDir;
+    // The file that keeps the window's place between runs; empty for a run that neither
+    // reads nor keeps it.
+    QString windowPlaceFile;
 };
 
 // The launch as the environment gives it: DESKO_HOME, else for an installed program a folder
 // of the user's own data, else the program's own directory; DESKO_SEED, DESKO_SPLASH_MS, the mail
 // configuration (DESKO_MAIL_CONFIG, else msmtp's own files), DESKO_ADDRESSBOOK and DESKO_PDF_DIR,
-// with their defaults.
+// with their defaults; the window's place in the user's state folder (XDG_STATE_HOME, else
+// ~/.local/state).
 Launch launchFromEnvironment();
 
 // Makes the user's folder of an installed program if it is missing. The first start in it

@@ -41,7 +41,8 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QColor ink = palette().color(QPalette::Mid);
+        // A hint, in the palette's colour for hints, which stays readable on a dark window.
+        const QColor ink = palette().color(QPalette::PlaceholderText);
         const QPointF centre(width() / 2.0, height() / 2.0 - 12);
         QPainterPath arrow;
         arrow.moveTo(centre + QPointF(-36, 0));

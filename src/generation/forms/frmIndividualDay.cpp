@@ -33,7 +33,8 @@ frmIndividualDay::frmIndividualDay(Workspace& ws, Context& ctx, Form& calendar, 
 void frmIndividualDay::buildControls() {
     auto* frames = new QGridLayout;
     for (int n = 1; n <= kDayEditorShifts; ++n) {
-        QGroupBox* frame = makeFrame(this, "", QString());
+        // Until a day is open a frame is named by its shift alone.
+        QGroupBox* frame = makeFrame(this, "", shiftWord(n));
         frame->setObjectName(indexedName("fraShift", n - 1));
         frame->hide();
         auto* lists = new QVBoxLayout(frame);

@@ -3,6 +3,7 @@
 #include "core/forms/daycell.h"
 #include "core/forms/elidedlabel.h"
 #include "core/forms/formkit.h"
+#include "core/forms/monthcells.h"
 #include "core/model/daycaption.h"
 #include "core/model/monthdata.h"
 #include "core/model/workspace.h"
@@ -25,8 +26,8 @@
 
 namespace {
 
-constexpr int kColumns = 7;
-constexpr int kRows = 6;
+constexpr int kColumns = MonthCells::kColumns;
+constexpr int kRows = MonthCells::kRows;
 // A cell shows six lines, the sixth the place of a note, beside the day's number in its
 // corner: what does not fit is cut with a mark, and shown whole as the cell's tooltip.
 constexpr int kCellLines = 6;
@@ -39,6 +40,10 @@ constexpr int kDayNameRow = 1;
 constexpr int kFirstWeekRow = 2;
 constexpr int kButtonRow = kFirstWeekRow + kRows;
 
+const QString kClickText = QStringLiteral("Click a day to view or edit its contents.");
+const QString kSerialText = QStringLiteral(
+    "Click on any day to view its contents.  Use the dropdown to change the initial agent.");
+
 bool isSerial(int engine) {
     return engine == kEngineHorizontal || engine == kEngineMixed;
 }
@@ -46,42 +51,43 @@ bool isSerial(int engine) {
 }  // namespace
 
 frmWholeCalendar::frmWholeCalendar(Workspace& ws, Context& ctx, MainForm& main, FaceWindow& window)
-    : Form(window), ws_(ws), ctx_(ctx), main_(main), window_(window) {
+    : Form(window), ws_(ws), ctx_(ctx), main_(main) {
     setObjectName(QStringLiteral("frmWholeCalendar"));
     buildControls();
+    dayEditor_ = new frmIndividualDay(ws_, ctx_, *this, window);
 }
 
 void frmWholeCalendar::buildControls() {
-    auto* grid = new QGridLayout(this);
-    grid->setHorizontalSpacing(4);
-    grid->setVerticalSpacing(4);
+    grid_ = new QGridLayout(this);
+    grid_->setHorizontalSpacing(4);
+    grid_->setVerticalSpacing(4);
 
-    labInstruction = makeLabel(this, "labInstruction",
-                               QStringLiteral("Click a day to view or edit its contents."));
+    labInstruction = makeLabel(this, "labInstruction", kClickText);
+    // Whichever text it shows, the instruction has the room of the longer one.
+    labInstruction->setMinimumWidth(
+        std::max(labInstruction->fontMetrics().horizontalAdvance(kClickText),
+                 labInstruction->fontMetrics().horizontalAdvance(kSerialText)));
     for (int w = 0; w < kColumns; ++w) {
         labDayName[w] = new QLabel(ws_.gDayNames[w], this);
         labDayName[w]->setObjectName(indexedName("labDayName", w));
         labDayName[w]->setAlignment(Qt::AlignCenter);
-        grid->addWidget(labDayName[w], kDayNameRow, w);
-        grid->setColumnStretch(w, 1);
+        grid_->addWidget(labDayName[w], kDayNameRow, w);
+        grid_->setColumnStretch(w, 1);
     }
 
+    std::array<QWidget*, kCells> boxes{};
     for (int i = 0; i < kCells; ++i) {
-        auto* cell = new DayCell(kCellSample, kCellLines, this);
-        // Only the month's days have a box; the others leave their place in the grid empty.
-        retainSizeWhenHidden(cell);
-        labDay[i] = cell->text;
+        cells_[i] = new DayCell(kCellSample, kCellLines, this);
+        boxes[i] = cells_[i];
+        labDay[i] = cells_[i]->text;
         labDay[i]->setObjectName(indexedName("labDay", i));
-        labNumber[i] = cell->number;
+        labNumber[i] = cells_[i]->number;
         labNumber[i]->setObjectName(indexedName("labNumber", i));
         for (QLabel* label : {static_cast<QLabel*>(labDay[i]), labNumber[i]}) {
             label->installEventFilter(this);
         }
-        grid->addWidget(cell, kFirstWeekRow + i / kColumns, i % kColumns);
     }
-    for (int row = 0; row < kRows; ++row) {
-        grid->setRowStretch(kFirstWeekRow + row, 1);
-    }
+    days_ = new MonthCells(grid_, kFirstWeekRow, boxes, [this](int i) { labDay_MouseDown(i); });
 
     cmbAgents = makeDropDown(this, QStringLiteral("cmbAgents"), QStringLiteral("Initial agent"));
     cmdReschedule = makeButton(this, "cmdReschedule", QStringLiteral("&Reschedule"));
@@ -89,8 +95,12 @@ void frmWholeCalendar::buildControls() {
     cmdOK->setDefault(true);
     cmdReschedule->setMinimumWidth(cmdOK->sizeHint().width());
     labInstruction->setBuddy(cmbAgents);
-
-    // Every control has its place from the start, so the window knows the size it needs.
+    // What one engine offers and another does not keeps its room, so the review needs the
+    // same room whatever the engine.
+    for (QWidget* offer :
+         {static_cast<QWidget*>(cmbAgents), static_cast<QWidget*>(cmdReschedule)}) {
+        retainSizeWhenHidden(offer);
+    }
     placeEngineControls(kEngineShuffled);
 
     connect(cmdReschedule, &QPushButton::clicked, this, [this] { cmdReschedule_Click(); });
@@ -105,14 +115,13 @@ void frmWholeCalendar::buildControls() {
 // The balance takes a column of its own right of the calendar, its toggle the left end of
 // the button row.
 void frmWholeCalendar::addBalancePanel() {
-    auto* grid = static_cast<QGridLayout*>(layout());
-    calendarWidth_ = grid->minimumSize().width();
+    calendarWidth_ = grid_->minimumSize().width();
     balancePanel = new BalancePanel(this);
     balancePanel->hide();
-    grid->addWidget(balancePanel, kDayNameRow, kColumns, kButtonRow - kDayNameRow, 1);
+    grid_->addWidget(balancePanel, kDayNameRow, kColumns, kButtonRow - kDayNameRow, 1);
     cmdBalance = makeButton(this, "cmdBalance", QStringLiteral("&Balance"));
     cmdBalance->setCheckable(true);
-    grid->addWidget(cmdBalance, kButtonRow, 0, Qt::AlignLeft);
+    grid_->addWidget(cmdBalance, kButtonRow, 0, Qt::AlignLeft);
     connect(cmdBalance, &QPushButton::clicked, this, [this](bool shown) {
         balanceShown_ = shown;
         fitBalancePanel();
@@ -127,6 +136,14 @@ QSize frmWholeCalendar::sizeHint() const {
         wanted.rwidth() += layout()->spacing() + balancePanel->sizeHint().width();
     }
     return wanted;
+}
+
+QSize frmWholeCalendar::minimumSizeHint() const {
+    QSize least = Form::minimumSizeHint();
+    if (!balancePanel->isHidden() && !balanceShown_.value_or(false)) {
+        least.setWidth(calendarWidth_);
+    }
+    return least;
 }
 
 void frmWholeCalendar::fitBalancePanel() {
@@ -151,7 +168,7 @@ void frmWholeCalendar::markAgentDays(int agent) {
         const bool worked = agent >= 1 && agent <= static_cast<int>(balance.agents.size()) &&
                             day >= 1 && day < kMonthDaySlots &&
                             balance.agents[agent - 1].worked[day];
-        static_cast<DayCell*>(labDay[i]->parentWidget())->setMarked(worked);
+        cells_[i]->setMarked(worked);
     }
 }
 
@@ -159,23 +176,22 @@ void frmWholeCalendar::markAgentDays(int agent) {
 // offers: a serial engine's list sits beside the instruction that explains it, Reschedule
 // beside OK, and OK alone stands in the middle, under the fourth column.
 void frmWholeCalendar::placeEngineControls(int engine) {
-    auto* grid = static_cast<QGridLayout*>(layout());
     for (QWidget* control :
          {static_cast<QWidget*>(labInstruction), static_cast<QWidget*>(cmbAgents),
           static_cast<QWidget*>(cmdReschedule), static_cast<QWidget*>(cmdOK)}) {
-        grid->removeWidget(control);
+        grid_->removeWidget(control);
     }
     if (isSerial(engine)) {
         labInstruction->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-        grid->addWidget(labInstruction, kInstructionRow, 0, 1, 5);
-        grid->addWidget(cmbAgents, kInstructionRow, 5, 1, 2);
+        grid_->addWidget(labInstruction, kInstructionRow, 0, 1, 5);
     } else {
         labInstruction->setAlignment(Qt::AlignCenter);
-        grid->addWidget(labInstruction, kInstructionRow, 0, 1, kColumns);
+        grid_->addWidget(labInstruction, kInstructionRow, 0, 1, kColumns);
     }
-    grid->addWidget(cmdReschedule, kButtonRow, 5, Qt::AlignHCenter);
+    grid_->addWidget(cmbAgents, kInstructionRow, 5, 1, 2);
+    grid_->addWidget(cmdReschedule, kButtonRow, 5, Qt::AlignHCenter);
     const bool alone = engine == kEngineSmartRandom || engine == -1;
-    grid->addWidget(cmdOK, kButtonRow, alone ? 3 : 6, Qt::AlignHCenter);
+    grid_->addWidget(cmdOK, kButtonRow, alone ? 3 : 6, Qt::AlignHCenter);
 }
 
 // Each load starts from a clean face: the month and the engine may be others than the last
@@ -187,17 +203,13 @@ void frmWholeCalendar::Form_Load() {
 
     const int engine = ws_.cmbGenerateListIndex;
     placeEngineControls(engine);
-    for (int i = 0; i < kCells; ++i) {
-        labDay[i]->parentWidget()->hide();
-    }
-    labInstruction->setText(QStringLiteral("Click a day to view or edit its contents."));
+    days_->showMonth(ws_.gFirstWeekday, ws_.currentMonthDays());
+    labInstruction->setText(kClickText);
     cmbAgents->clear();
     cmbAgents->setVisible(isSerial(engine));
     cmdReschedule->setVisible(engine == kEngineShuffled);
     if (isSerial(engine)) {
-        labInstruction->setText(
-            QStringLiteral("Click on any day to view its contents.  Use the dropdown to change "
-                           "the initial agent."));
+        labInstruction->setText(kSerialText);
         const int agents = std::min(ws_.gAgentCount, static_cast<int>(ws_.gAgentKey.size()) - 1);
         for (int a = 1; a <= agents; ++a) {
             cmbAgents->addItem(ws_.gAgentKey[a]);
@@ -229,7 +241,7 @@ void frmWholeCalendar::Form_Activate() {
         // The first line stops short of the number in the corner.
         labDay[i]->setFirstLineRoom(labNumber[i]->sizeHint().width() + 4);
         labDay[i]->setLines(dayCaption(ws_, d));
-        labDay[i]->parentWidget()->show();
+        cells_[i]->setAccessibleName(daySpokenText(ws_, d));
     }
     balancePanel->showBalance(ws_);
     fitBalancePanel();
@@ -253,9 +265,6 @@ void frmWholeCalendar::labDay_MouseDown(int index) {
     show();
     doEvents();
     showNormalPointer();
-    if (dayEditor_ == nullptr) {
-        dayEditor_ = new frmIndividualDay(ws_, ctx_, *this, window_);
-    }
     dayEditor_->show();
     hide();
 }
@@ -308,7 +317,7 @@ void frmWholeCalendar::cmdOK_Click() {
 bool frmWholeCalendar::Form_Unload() {
     modStatus(ws_, ctx_, QStringLiteral("Closing generated schedule"));
     showHourglass();
-    if (dayEditor_ != nullptr) {
+    if (dayEditor_->isLoaded()) {
         dayEditor_->unload();
     }
     main_.show();
@@ -316,7 +325,7 @@ bool frmWholeCalendar::Form_Unload() {
 }
 
 bool frmWholeCalendar::eventFilter(QObject* watched, QEvent* event) {
-    if (isCellPress(event)) {
+    if (event->type() == QEvent::MouseButtonPress) {
         for (int i = 0; i < kCells; ++i) {
             if (watched == labDay[i]) {
                 labDay_MouseDown(i);

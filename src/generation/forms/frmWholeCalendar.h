@@ -6,9 +6,12 @@
 #include <optional>
 
 class BalancePanel;
+class DayCell;
 class ElidedLabel;
 class FaceWindow;
+class MonthCells;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QPushButton;
 class frmIndividualDay;
@@ -49,7 +52,7 @@ public:
     // Closes the review and gives the main window back its normal face.
     void cmdOK_Click();
 
-    // The day editor, once a day has been opened.
+    // The day editor, which takes the review's place while a day is open.
     frmIndividualDay* dayEditor() const { return dayEditor_; }
 
     std::array<QLabel*, 7> labDayName;
@@ -64,6 +67,9 @@ public:
 
     // The form asks for room for the balance, also while it is hidden.
     QSize sizeHint() const override;
+    // The balance that shows by itself gives way where the calendar needs the room, so it
+    // never makes the window larger; the balance the user asked for needs its room.
+    QSize minimumSizeHint() const override;
 
 protected:
     void Form_Load() override;
@@ -82,10 +88,10 @@ private:
     Workspace& ws_;
     Context& ctx_;
     MainForm& main_;
-    FaceWindow& window_;
-    // Made when a day is first opened: it is smaller than the review, so the window's size
-    // does not wait for it, and the start does not pay for its lists.
-    frmIndividualDay* dayEditor_ = nullptr;
+    QGridLayout* grid_;
+    std::array<DayCell*, kCells> cells_;
+    MonthCells* days_;
+    frmIndividualDay* dayEditor_;
     // The width the calendar needs without the balance.
     int calendarWidth_ = 0;
     // Whether the user asked for the balance, until then nothing.

@@ -216,7 +216,7 @@ void frmMain::cmdVacations_Click() {
     if (const std::optional<int> agent = constraintAgent()) {
         ws_.gDayPickerMode = kPickVacations;
         ws_.gDayPickerAgent = *agent;
-        formOf(dayPicker_)->show();
+        dayPicker_->show();
     }
 }
 
@@ -224,20 +224,20 @@ void frmMain::cmdRestrictions_Click() {
     if (const std::optional<int> agent = constraintAgent()) {
         ws_.gRestrictionAgent = *agent;
         modEnterBusyState();
-        formOf(restrictions_)->show();
+        restrictions_->show();
     }
 }
 
 void frmMain::cmdHolidays_Click() {
     if (constraintAgent()) {
         ws_.gDayPickerMode = kPickHolidays;
-        formOf(dayPicker_)->show();
+        dayPicker_->show();
     }
 }
 
 void frmMain::cmdNotes_Click() {
     if (constraintAgent()) {
         ws_.gDayPickerMode = kPickNotedDays;
-        formOf(dayPicker_)->show();
+        dayPicker_->show();
     }
 }

@@ -13,6 +13,7 @@
 #include "shell/forms/frmMain.h"
 #include "shell/forms/programstart.h"
 #include "shell/forms/qtdialogs.h"
+#include "shell/forms/windowkeeper.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -45,5 +46,7 @@ int runProgram(QApplication& app, const Launch& launch, const std::function<void
     if (afterStart) {
         afterStart();
     }
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    keepWindowPlace(*run.window, launch.windowPlaceFile);
+    return status;
 }

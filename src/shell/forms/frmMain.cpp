@@ -2,10 +2,16 @@
 
 #include "shell/forms/frmMain.h"
 
+#include "constraints/forms/frmBoth.h"
+#include "constraints/forms/frmHolidays.h"
+#include "constraints/forms/frmRestrictions.h"
+#include "constraints/forms/frmViewDay.h"
 #include "core/forms/facewindow.h"
 #include "core/forms/formkit.h"
 #include "core/services/context.h"
+#include "environment/forms/frmAbout.h"
 #include "generation/forms/frmWholeCalendar.h"
+#include "printing/forms/frmPSetup.h"
 #include "shell/forms/monthstepper.h"
 
 #include <QAction>
@@ -55,7 +61,7 @@ private:
 }  // namespace
 
 frmMain::frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString& programFile)
-    : MainForm(window), ws_(ws), ctx_(ctx), programFile_(programFile), window_(window) {
+    : MainForm(window), ws_(ws), ctx_(ctx), programFile_(programFile) {
     setObjectName(QStringLiteral("frmMain"));
     buildControls();
     buildMenus();
@@ -64,6 +70,13 @@ frmMain::frmMain(Workspace& ws, Context& ctx, FaceWindow& window, const QString&
     // The long commands' yields run the window's events.
     ctx.events.run = [] { doEvents(); };
     review_ = new frmWholeCalendar(ws, ctx, *this, window);
+    // Every face is made with the window, so that the window knows the room they all need.
+    shifts_ = new frmViewDay(ws, ctx, *this, window);
+    dayPicker_ = new frmHolidays(ws, ctx, *this, window);
+    restrictions_ = new frmRestrictions(ws, ctx, *this, window);
+    constraints_ = new frmBoth(ws, ctx, *this, window);
+    about_ = new frmAbout(ws, ctx, *this, window);
+    printerSetup_ = new frmPSetup(ws, ctx, *this, window);
     window.fitFaces();
     load();
 }

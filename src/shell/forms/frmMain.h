@@ -205,27 +205,15 @@ private:
     void openViewForm(ViewForm form);
     void showViewForm(ViewForm form);
     std::optional<int> constraintAgent();
-    // A form that the main window opens, made as a face of the window the first time.
-    template <typename F>
-    F* formOf(F*& form);
 
     Workspace& ws_;
     Context& ctx_;
     QString programFile_;
-    FaceWindow& window_;
     frmWholeCalendar* review_;
-    frmViewDay* shifts_ = nullptr;
-    frmHolidays* dayPicker_ = nullptr;
-    frmRestrictions* restrictions_ = nullptr;
-    frmBoth* constraints_ = nullptr;
-    frmAbout* about_ = nullptr;
-    frmPSetup* printerSetup_ = nullptr;
+    frmViewDay* shifts_;
+    frmHolidays* dayPicker_;
+    frmRestrictions* restrictions_;
+    frmBoth* constraints_;
+    frmAbout* about_;
+    frmPSetup* printerSetup_;
 };
-
-template <typename F>
-F* frmMain::formOf(F*& form) {
-    if (form == nullptr) {
-        form = new F(ws_, ctx_, *this, window_);
-    }
-    return form;
-}

@@ -35,5 +35,5 @@ void frmMain::mnuHOpenDump_Click() {
 void frmMain::mnuHAbout_Click() {
     modEnterBusyState();
     showHourglass();
-    formOf(about_)->show();
+    about_->show();
 }

@@ -178,13 +178,13 @@ void frmMain::showViewForm(ViewForm form) {
             showReview();
             break;
         case ViewForm::DailyShifts:
-            formOf(shifts_)->show();
+            shifts_->show();
             break;
         case ViewForm::AllConstraints:
-            formOf(constraints_)->show();
+            constraints_->show();
             break;
         case ViewForm::FontsAndPrinter:
-            formOf(printerSetup_)->show();
+            printerSetup_->show();
             break;
     }
 }

@@ -9,6 +9,7 @@
 #include "environment/forms/frmCredit.h"
 #include "shell/filecommands.h"
 #include "shell/forms/frmMain.h"
+#include "shell/forms/windowkeeper.h"
 #include "shell/programstart.h"
 
 #include <QAction>
@@ -52,7 +53,7 @@ DeskoRun modProgramStart(Workspace& ws, Context& ctx, const QString& programFile
     // Only the key on the splash brings it out, for this run alone.
     run.main->mnuHOpenDump->setVisible(offerOpenDump);
     run.main->show();
-    run.window->show();
+    showWindowAsLeft(*run.window, ctx.launch.windowPlaceFile);
     doEvents();  // the window is up and active before a file on the command line opens
     if (!commandLine.isEmpty() && QFileInfo(commandLine).isFile()) {
         QString path = commandLine;

@@ -114,14 +114,15 @@ TEST(ReviewForm, HolidaysAreNamedAndCellsThatDoNotFitSaySo) {
     r.ws.gHoliday[1] = 1;
     r.ws.gHolidayName[1] = QStringLiteral("New Year's Day");
     r.ws.gNoted[11] = 1;
-    r.ws.gNotedText[11] = QStringLiteral("A note far longer than any cell of the calendar is");
+    r.ws.gNotedText[11] =
+        QStringLiteral("A-note-with-no-place-to-break-that-is-wider-than-any-cell");
     frmWholeCalendar* review = r.show(0);
     QTest::mouseClick(r.cell(1), Qt::LeftButton);
     QTest::mouseClick(review->labNumber[kFirstCell], Qt::LeftButton);
     EXPECT_EQ(r.s.dialogs.texts(),
               texts({"January 1 is New Year's Day.", "January 1 is New Year's Day."}));
     EXPECT_EQ(r.s.dialogs.shown[0].icon, MsgIcon::Information);
-    EXPECT_EQ(r.editor(), nullptr);
+    EXPECT_FALSE(r.editor()->isVisible());
     EXPECT_TRUE(review->isVisible());
 
     EXPECT_FALSE(r.cell(4)->isCut());

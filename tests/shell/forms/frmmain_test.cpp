@@ -11,7 +11,6 @@
 
 #include <QAccessible>
 #include <QLockFile>
-#include <QScrollArea>
 #include <QStyle>
 #include <QStyleOptionSlider>
 
@@ -566,37 +565,6 @@ TEST(MainWindowForm, EveryControlHasANameToBeReadAloud) {
     }
     EXPECT_EQ(w.main->cmbGenerate->accessibleName(), spokenName(w.main->fraGenerate));
     EXPECT_EQ(w.main->cmbViewEdit->accessibleName(), spokenName(w.main->fraViewEdit));
-}
-
-// The forms are faces of one window that keeps one place and size, fits the screen's
-// available area, and gives every face at least the room its controls need, scrolling where
-// the screen is too small; the caption is the one of the face on top.
-TEST(MainWindowForm, TheFormsAreFacesOfOneWindowThatFitsTheScreen) {
-    MainWindow w;
-    withAgents(w.ws, 3);
-    w.ws.gScheduleGenerated = 1;
-    w.open();
-    const QRect area = w.window->screen()->availableGeometry();
-    const QRect placed = w.window->geometry();
-    EXPECT_TRUE(area.contains(placed)) << placed.width() << "x" << placed.height();
-    w.main->showReview();
-    EXPECT_EQ(w.window->windowTitle(), w.main->windowTitle());
-    EXPECT_FALSE(w.main->isVisible());
-    QTest::mouseClick(w.main->review()->labDay[6], Qt::LeftButton);  // the 2nd, a Saturday
-    auto* scroll = w.window->findChild<QScrollArea*>();
-    ASSERT_NE(scroll, nullptr);
-    QTest::mouseClick(w.main->review()->cmdOK, Qt::LeftButton);
-    openEveryEditor(w);
-    const QSize stage = scroll->widget()->size();
-    const QList<Form*> faces = w.window->findChildren<Form*>();
-    EXPECT_EQ(faces.size(), 9);
-    for (Form* face : faces) {
-        EXPECT_GE(stage.width(), face->minimumSizeHint().width())
-            << face->objectName().toStdString();
-        EXPECT_GE(stage.height(), face->minimumSizeHint().height())
-            << face->objectName().toStdString();
-    }
-    EXPECT_EQ(w.window->geometry(), placed);
 }
 
 // A start with a schedule file on its command line shows the file's engine and print boxes;

@@ -79,7 +79,7 @@ TEST(Keyboard, EveryFormFromTheKeyboardAlone) {
         {[&](MainWindow& w) {
              w.main->chkPrint[0]->setChecked(true);
              click(&frmMain::cmdPrint)(w);
-         }, "cmdPrint", {}, back("Printing the schedule for January")},
+         }, "fraPrint", {}, back("Printing the schedule for January")},
         {review, "frmWholeCalendar", {Qt::Key_Escape}, back("Closing generated schedule")},
         {[&](MainWindow& w) {
              review(w);
