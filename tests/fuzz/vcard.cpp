@@ -7,9 +7,11 @@
 
 namespace {
 
+// Addresses compare with case ignored: the book gives one entry for each.
 bool holds(const std::vector<AddressEntry>& entries, const QString& address) {
-    return std::any_of(entries.begin(), entries.end(),
-                       [&](const AddressEntry& entry) { return entry.address == address; });
+    return std::any_of(entries.begin(), entries.end(), [&](const AddressEntry& entry) {
+        return entry.address.compare(address, Qt::CaseInsensitive) == 0;
+    });
 }
 
 }  // namespace
