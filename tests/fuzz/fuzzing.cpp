@@ -97,6 +97,17 @@ private:
     int& sent_;
 };
 
+// The road's printer draws nothing and keeps no trace: it measures by rule and counts the
+// documents that have something on them.
+class RuledPrinters final : public Printers {
+public:
+    RuledSurface device;
+    QStringList deviceNames() const override { return {device.DeviceName()}; }
+    Surface& printer() override { return device; }
+    void setPrinter(int) override {}
+    void setDocumentTitle(const QString&) override {}
+};
+
 void printEverything(HeadlessRun& run) {
     Workspace& ws = run.ws;
     ws.chkPrint = {1, 1, 1, 0, 0, 0};
@@ -168,7 +179,7 @@ RoadResult travelWholeRoad(const QString& path) {
         QStringLiteral("road.msmtprc"), "account road\nhost localhost\nfrom desk@example.org\n");
     run.ctx.launch.mailConfig = mailConfig;
     readMailFacts(run.ctx.env, run.ctx.launch.mailConfig);
-    RecordingPrinters printers;
+    RuledPrinters printers;
     run.ctx.printers = &printers;
 
     RoadResult result;
@@ -179,9 +190,12 @@ RoadResult travelWholeRoad(const QString& path) {
     const Workspace opened = run.ws;
     result.year = opened.gCurrentYear;
     result.month = opened.gCurrentMonth;
+    lookOver(run);
     printEverything(run);
     exportEverything(run, result.messages);
-    // The Generate button is off while there are no agents.
+    // The Generate button is off while there are no agents. The cells an engine writes are
+    // agents' keys, which the file's cells already are, so the last engine's schedule alone
+    // is printed and exported again.
     for (int engine = 0; engine < 4 && opened.gAgentCount > 0; ++engine) {
         run.ws = opened;
         if (!prepareGenerate(run.ws, run.ctx, engine)) {
@@ -194,6 +208,8 @@ RoadResult travelWholeRoad(const QString& path) {
             rerunFromAgent(run.ws, run.ctx, engine, run.ws.gAgentCount - 1);
         }
         lookOver(run);
+    }
+    if (result.schedulesGenerated > 0) {
         printEverything(run);
         exportEverything(run, result.messages);
     }

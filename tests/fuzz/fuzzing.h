@@ -75,11 +75,12 @@ struct HeadlessRun {
     Workspace ws;
 };
 
-// The whole road of a schedule file as a user takes it: open as File Open does, print every
-// report and export through every channel, then for each engine generate, look the month
-// over in the review, and print and export again. The reports go to a recording printer,
-// the messages and the Calendar Creator file into memory. What the road did, for callers
-// that check it.
+// The whole road of a schedule file as a user takes it: open as File Open does, look the
+// month over in the review, the day editor and the day pickers, print every report and
+// export through every channel; then generate with each engine and look the month over,
+// and print and export the last schedule. The reports go to a printer that measures by
+// rule, the messages and the Calendar Creator file into memory. What the road did, for
+// callers that check it.
 struct RoadResult {
     bool opened = false;
     int year = 0;  // the month the file opened in
