@@ -24,18 +24,11 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 QByteArray inputBytes(const std::uint8_t* data, std::size_t size) {
     return QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-}
-
-SplitInput splitFirstLine(const QByteArray& bytes) {
-    const qsizetype end = bytes.indexOf('\n');
-    if (end < 0) {
-        return {QString::fromUtf8(bytes), QByteArray()};
-    }
-    return {QString::fromUtf8(bytes.left(end)), bytes.mid(end + 1)};
 }
 
 void broken(const char* promise) {

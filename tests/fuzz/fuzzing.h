@@ -11,7 +11,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
 // What the fuzz targets share. Each target is one function of the bytes it is given, which
 // libFuzzer calls in the fuzz build and the ordinary suite calls on the files of a folder.
@@ -20,14 +19,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 // The input's bytes as the program would find them in a file.
 QByteArray inputBytes(const std::uint8_t* data, std::size_t size);
-
-// The input cut in two at its first line break: a short first line that steers the target
-// (a password, a name to look up), and the rest, the text that is read.
-struct SplitInput {
-    QString first;
-    QByteArray rest;
-};
-SplitInput splitFirstLine(const QByteArray& bytes);
 
 // A promise of the program that the input broke: stops the run, which libFuzzer keeps as a
 // crash with its input.
