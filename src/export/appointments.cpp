@@ -12,12 +12,17 @@ std::vector<AgentShift> agentShifts(const Workspace& ws, int agent) {
         return shifts;
     }
     for (int day = 1; day <= ws.currentMonthDays(); ++day) {
+        // A day that no calendar has (29 February 2100, any day of the year 0) holds no
+        // appointment.
+        const QDate date(ws.gCurrentYear, ws.gCurrentMonth, day);
+        if (!date.isValid()) {
+            continue;
+        }
         const int weekday = ws.weekdayOf(day);
         for (int shift = 1; shift <= shiftsOn(ws, weekday); ++shift) {
             for (int slot = 0; slot <= highestSlotOf(ws, weekday, shift); ++slot) {
                 if (ws.schedule(day, shift, slot) == key) {
-                    shifts.push_back(
-                        {agent, QDate(ws.gCurrentYear, ws.gCurrentMonth, day), weekday, shift});
+                    shifts.push_back({agent, date, weekday, shift});
                     break;
                 }
             }

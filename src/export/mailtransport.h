@@ -17,6 +17,7 @@ inline constexpr int kBadAddress = 1001;
 inline constexpr int kNoMailSession = 1002;
 inline constexpr int kPlainToRemote = 1003;
 inline constexpr int kOutboxUnwritable = 1004;
+inline constexpr int kNoSuchDay = 1005;
 
 // Where finished messages go, one recipient each: a mail server, or a folder of files.
 class MailTransport {

@@ -52,8 +52,8 @@ public:
     void run();
 
 private:
-    void treat(int agent, const QDate& date, int weekday, int shift);
-    void send(int agent, const QDate& date, int shift, const ShiftTimes& times);
+    void treat(int agent, int day, int weekday, int shift);
+    void send(int agent, int day, int shift, const ShiftTimes& times);
     std::vector<SentAppointment> requestedAppointments() const;
     void cancelWithdrawnAppointments();
 
@@ -96,12 +96,11 @@ void OutlookChannel::run() {
     done_ = 1;
     for (int agent = 1; agent <= ws_.gAgentCount; ++agent) {
         for (int day = 1; day <= ws_.currentMonthDays(); ++day) {
-            const QDate date(ws_.gCurrentYear, ws_.gCurrentMonth, day);
             const int weekday = ws_.weekdayOf(day);
             for (int shift = 1; shift <= shiftsOn(ws_, weekday); ++shift) {
                 for (int slot = 0; slot <= highestSlotOf(ws_, weekday, shift); ++slot) {
                     if (ws_.schedule(day, shift, slot) == ws_.gAgentKey[agent]) {
-                        treat(agent, date, weekday, shift);
+                        treat(agent, day, weekday, shift);
                     }
                     ++done_;
                 }
@@ -115,7 +114,7 @@ void OutlookChannel::run() {
     view_.hideProgressBar();
 }
 
-void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift) {
+void OutlookChannel::treat(int agent, int day, int weekday, int shift) {
     if (!ctx_.events.doEvents()) {
         return;
     }
@@ -128,7 +127,7 @@ void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift)
         return;
     }
     if (!ws_.gAgentEmail[agent].isEmpty()) {
-        send(agent, date, shift, times);
+        send(agent, day, shift, times);
         return;
     }
     const QString name = ws_.agentName(agent);
@@ -141,14 +140,25 @@ void OutlookChannel::treat(int agent, const QDate& date, int weekday, int shift)
     }
 }
 
-void OutlookChannel::send(int agent, const QDate& date, int shift, const ShiftTimes& times) {
+void OutlookChannel::send(int agent, int day, int shift, const ShiftTimes& times) {
     const QString& address = ws_.gAgentEmail[agent];
-    CalendarEvent event = shiftEvent(ws_, {agent, date, ws_.weekdayOf(date.day()), shift}, times);
-    event.organizer = session_.sender();
-    event.attendee = address;
-    const QByteArray request = requests_.build(CalendarMethod::Request, {event});
-    const std::optional<SendFailure> failure =
-        session_.send(ctx_.clock.now(), {address, ws_.gOutlookSubject, ws_.gOutlookBody, request});
+    const QDate date(ws_.gCurrentYear, ws_.gCurrentMonth, day);
+    std::optional<SendFailure> failure;
+    if (date.isValid()) {
+        CalendarEvent event = shiftEvent(ws_, {agent, date, ws_.weekdayOf(day), shift}, times);
+        event.organizer = session_.sender();
+        event.attendee = address;
+        const QByteArray request = requests_.build(CalendarMethod::Request, {event});
+        failure = session_.send(ctx_.clock.now(),
+                                {address, ws_.gOutlookSubject, ws_.gOutlookBody, request});
+    } else {
+        // The month's own leap rule, or a year far away, gives days that no calendar has,
+        // such as 29 February 2100 or any day of the year 0: they get no appointment.
+        failure = SendFailure{kNoSuchDay, QStringLiteral("No calendar has the day ") +
+                                              QString::number(ws_.gCurrentMonth) +
+                                              QLatin1Char('/') + QString::number(day) +
+                                              QLatin1Char('/') + QString::number(ws_.gCurrentYear)};
+    }
     // Only an agent's first failure is told: the later ones are the same story.
     if (failure && addResultOnce(ws_.gExportResults, address,
                                  QStringLiteral("Failed to create an Outlook appointment for ") +

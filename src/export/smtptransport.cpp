@@ -65,6 +65,21 @@ bool concernsEveryMessage(CURLcode code) {
     }
 }
 
+// The text with every showing of the password masked. The mask's character is one the
+// password lacks, so that no mask spells the password or completes it with the characters
+// beside it; a password that has them all keeps the server's words out altogether.
+QString masked(const QString& text, const QString& password) {
+    if (password.isEmpty() || !text.contains(password)) {
+        return text;
+    }
+    for (const char16_t mark : {u'*', u'#', u'x'}) {
+        if (!password.contains(QChar(mark))) {
+            return QString(text).replace(password, QString(8, QChar(mark)));
+        }
+    }
+    return QStringLiteral("The server's reply repeated the password");
+}
+
 }  // namespace
 
 SmtpTransport::SmtpTransport(const MailAccount& account, QString password)
@@ -147,9 +162,7 @@ std::optional<SendFailure> SmtpTransport::failureOf(int code) {
                                                               : curl_easy_strerror(curlCode))};
     }
     // A server may repeat what it was told; the password stays out of every report.
-    if (!password_.isEmpty()) {
-        failure.description.replace(password_, QStringLiteral("********"));
-    }
+    failure.description = masked(failure.description, password_);
     if (concernsEveryMessage(curlCode)) {
         unreachable_ = failure;
     }

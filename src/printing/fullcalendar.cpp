@@ -85,7 +85,9 @@ QStringList nameLines(const Workspace& ws, int day, int shift, int highestSlot, 
 void printShifts(const Workspace& ws, Surface& printer, int mode, int day, const Cell& cell,
                  double rowHeight) {
     const bool hideTime = ws.gCalendarHideTimeText == QStringLiteral("1");
-    const int shifts = ws.gShiftCount[cell.col];
+    // In a month before the calendar's base year the first days stand in columns left of
+    // Sunday, which the weekly table has none of: they print no shifts.
+    const int shifts = cell.col >= 0 ? ws.gShiftCount[cell.col] : 0;
     printer.setFontSize(modeSize(mode));
     double timeWidth = 0;
     for (int shift = 1; shift <= shifts; ++shift) {

@@ -10,6 +10,8 @@
 #include "persistence/backupring.h"
 #include "persistence/workspacefile.h"
 
+#include <limits>
+
 bool changeMonth(Workspace& ws, Context& ctx, int barValue) {
     const bool monthHasData = ws.gHasHolidays == 1 || ws.gHasNotedDays == 1 ||
                               ws.gHasVacations == 1 || ws.gScheduleGenerated == 1;
@@ -29,14 +31,16 @@ bool changeMonth(Workspace& ws, Context& ctx, int barValue) {
 
     const int delta = barValue - ws.gScrollValue;
     ws.gScrollValue = barValue;
+    // A year at the end of the numbers that a file can name stays: the step that would
+    // overflow it is passed over, the month's is not.
     if (delta == 1 || delta == -1) {
         ws.gCurrentMonth -= delta;
         if (ws.gCurrentMonth < 1) {
             ws.gCurrentMonth = 12;
-            ws.gCurrentYear -= 1;
+            ws.gCurrentYear -= ws.gCurrentYear > std::numeric_limits<int>::min() ? 1 : 0;
         } else if (ws.gCurrentMonth > 12) {
             ws.gCurrentMonth = 1;
-            ws.gCurrentYear += 1;
+            ws.gCurrentYear += ws.gCurrentYear < std::numeric_limits<int>::max() ? 1 : 0;
         }
     }
     modStatus(ws, ctx, QStringLiteral("Changing the present month to ") + ws.currentMonthAndYear());

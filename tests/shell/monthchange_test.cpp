@@ -6,6 +6,8 @@
 
 #include <QTemporaryDir>
 
+#include <climits>
+
 #include <gtest/gtest.h>
 
 // The stepper's values in turn, from 0: +1 is one step down (the month before), -1 one step up
@@ -36,6 +38,8 @@ TEST(MonthChange, StepsTheMonthAndErasesItsData) {
         {"a No keeps all", 5, 2027, {-1}, {no}, "May 2027", false},
         {"a step after a No", 5, 2027, {-1, -2}, {no, yes}, "May 2027", true},
         {"a drag", 5, 2027, {-7}, {}, "May 2027", true},
+        {"forward over the last year", 12, INT_MAX, {-1}, {}, "January 2147483647", true},
+        {"back over the first year", 1, INT_MIN, {1}, {}, "December -2147483648", true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
