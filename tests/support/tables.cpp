@@ -25,14 +25,18 @@ QString unescaped(const QString& field) {
 
 }  // namespace
 
-QList<QStringList> tableRows(const char* path) {
+QString testFileText(const char* path) {
     QFile file(QStringLiteral(DESKO_TESTS_DIR "/") + QString::fromUtf8(path));
     if (!file.open(QIODevice::ReadOnly)) {
-        ADD_FAILURE() << "the table " << path << " cannot be read";
+        ADD_FAILURE() << "the file " << path << " cannot be read";
         return {};
     }
+    return QString::fromUtf8(file.readAll());
+}
+
+QList<QStringList> tableRows(const char* path) {
     QList<QStringList> rows;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'))) {
+    for (const QString& line : testFileText(path).split(QLatin1Char('\n'))) {
         if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
             continue;
         }

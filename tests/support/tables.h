@@ -10,3 +10,7 @@
 // taken from tests/, as in "core/model/golden/agentkeys.tsv"; a file that cannot be read fails
 // the test that asked for it.
 QList<QStringList> tableRows(const char* path);
+
+// The text of a file under tests/, as tableRows() finds it; a file that cannot be read fails
+// the test that asked for it.
+QString testFileText(const char* path);
