@@ -2,6 +2,7 @@
 #include "core/model/calendar.h"
 #include "core/model/workspace.h"
 #include "fakes.h"
+#include "tables.h"
 
 #include <gtest/gtest.h>
 
@@ -72,17 +73,13 @@ Workspace threeAgents(int month = 1) {
 // whole, and the rows behind them move down with their vacations and restrictions; the new row
 // has none.
 TEST(AgentList, AddPutsTheAgentInNameOrderAndMovesTheRowsBehind) {
-    const std::tuple<const char*, const char*, int> cases[] = {
-        {"Abbott", "Zoe", 0},     {"Chen", "Wei", 1},      {"Zhou", "Lin", 2},
-        {"de la Cruz", "Ana", 1}, {"brennan", "Aidan", 0}, {"Brennan Smith", "Jo", 0}};
-    for (const auto& [lastName, firstName, position] : cases) {
-        SCOPED_TRACE(lastName);
+    for (const QStringList& row : tableRows("core/model/golden/agentadds.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
         Workspace ws = office({{"Brennan", "Patrick", 1, 1}, {"Delgado", "Sofia", 9, 6}});
-        const QString last = QString::fromUtf8(lastName);
-        const QString first = QString::fromUtf8(firstName);
-        EXPECT_EQ(addAgent(ws, last, first, last), position);
+        const int position = row[2].toInt();
+        EXPECT_EQ(addAgent(ws, row[0], row[1], row[0]), position);
         QStringList expected = texts({"Brennan, Patrick|1|1", "Delgado, Sofia|9|6"});
-        expected.insert(position, agentListItem(last, first) + QStringLiteral("||"));
+        expected.insert(position, agentListItem(row[0], row[1]) + QStringLiteral("||"));
         EXPECT_EQ(marks(ws), expected);
     }
 }
@@ -103,45 +100,28 @@ TEST(AgentList, AddAndDeleteInAShortMonthLeaveDay31Behind) {
 // restrictions, to where its new name sorts, and the rows it passes keep all their days as
 // well; restrictions of shift 0 stay with the row.
 TEST(AgentList, ChangeTakesTheConstraintsAlongToTheNewPlace) {
-    const std::tuple<const char*, int, const char*, int, QStringList> cases[] = {
-        {"first to last", 0, "Young", 2,
-         texts({"Chen, Wei|4|3", "Delgado, Sofia|9,30|0,6", "Young, Patrick|1,31|1"})},
-        {"last to first", 2, "Adams", 0,
-         texts({"Adams, Sofia|9,30|6", "Brennan, Patrick|1,31|0,1", "Chen, Wei|4|3"})},
-        {"middle to last", 1, "Zhou", 2,
-         texts({"Brennan, Patrick|1,31|1", "Delgado, Sofia|9,30|0,6", "Zhou, Wei|4|3"})},
-        {"same place", 1, "Chan", 1,
-         texts({"Brennan, Patrick|1,31|1", "Chan, Wei|4|0,3", "Delgado, Sofia|9,30|6"})},
-    };
-    for (const auto& [what, listIndex, last, position, expected] : cases) {
-        SCOPED_TRACE(what);
+    for (const QStringList& row : tableRows("core/model/golden/agentchanges.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
         Workspace ws = threeAgents(2);
         ws.gVacation[1][31] = ws.gVacation[3][30] = 1;
         ws.gRestriction[2][1][0] = 1;
+        const int listIndex = row[1].toInt();
         const QString first = ws.gAgentFirst[static_cast<std::size_t>(listIndex) + 1];
-        const QString name = QString::fromUtf8(last);
-        EXPECT_EQ(changeAgent(ws, listIndex, name, first, name), position);
-        EXPECT_EQ(marks(ws), expected);
+        EXPECT_EQ(changeAgent(ws, listIndex, row[2], first, row[2]), row[3].toInt());
+        EXPECT_EQ(marks(ws), row.mid(4));
     }
 }
 
 // A delete closes the gap in the names always, in the vacations (month days only) only when
 // the month has vacations, and in the restrictions only when there are restrictions.
 TEST(AgentList, DeleteClosesTheGapWhereTheFlagsSaySo) {
-    const std::tuple<const char*, int, int, int, QStringList> cases[] = {
-        {"first", 0, 1, 1, texts({"Chen, Wei|4|3", "Delgado, Sofia|9|6"})},
-        {"middle", 1, 1, 1, texts({"Brennan, Patrick|1|1", "Delgado, Sofia|9|6"})},
-        {"last", 2, 1, 1, texts({"Brennan, Patrick|1|1", "Chen, Wei|4|3"})},
-        {"without vacations", 0, 0, 1, texts({"Chen, Wei|1|3", "Delgado, Sofia|4|6"})},
-        {"without restrictions", 0, 1, 0, texts({"Chen, Wei|4|1", "Delgado, Sofia|9|3"})},
-    };
-    for (const auto& [what, listIndex, hasVacations, hasRestrictions, expected] : cases) {
-        SCOPED_TRACE(what);
+    for (const QStringList& row : tableRows("core/model/golden/agentdeletes.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
         Workspace ws = threeAgents();
-        ws.gHasVacations = hasVacations;
-        ws.gHasRestrictions = hasRestrictions;
-        deleteAgent(ws, listIndex);
-        EXPECT_EQ(marks(ws), expected);
+        ws.gHasVacations = row[2].toInt();
+        ws.gHasRestrictions = row[3].toInt();
+        deleteAgent(ws, row[1].toInt());
+        EXPECT_EQ(marks(ws), row.mid(4));
     }
 
     Workspace only = office({{"Brennan", "Patrick", 1, 1}});
