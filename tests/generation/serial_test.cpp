@@ -4,12 +4,12 @@
 #include "offices.h"
 #include "tables.h"
 
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -67,57 +67,36 @@ TEST(SerialEngines, VisitTheDaysInTheirOrder) {
 // for a start cursor and the agents barred from some of them; and the log's two lines, which
 // name the engine and the agent after the cursor.
 TEST(SerialEngines, PassOverBarredAgentsUpToTheirLimit) {
-    struct Case {
-        const char* what;
-        Engine engine;
-        int agents;
-        int cursor;
-        std::function<void(Workspace&)> setUp;
-        std::vector<int> firstDays;  // 0: the cell kept what it held
-        int base;                    // the agent the log names
-    };
-    const auto away = [](int from, int to, int day) {
-        return [=](Workspace& ws) {
-            for (int a = from; a <= to; ++a) {
-                ws.gVacation[a][day] = 1;
-            }
-        };
-    };
-    const auto restricted = [](Workspace& ws) { ws.gRestriction[3][0][1] = 1; };
-    const auto noPositions = [](Workspace& ws) { setTable(ws, 0, 1); };
-    const Case cases[] = {
-        {"base agent away on the 1st", horizontal, 5, 0, away(1, 1, 1), {2, 3, 4, 5, 1}, 1},
-        {"agent 3 restricted on Sundays", horizontal, 5, 2, restricted, {4, 5, 1, 2, 3}, 3},
-        {"the cursor at the end of the list", horizontal, 5, 5, {}, {1, 2, 3}, 1},
-        // The cursor goes round the list of seven 21 times and more: 151 places from agent
-        // 2, it stops on agent 6, who is away too.
-        {"everybody away: 151 tries", horizontal, 7, 0, away(1, 7, 3), {1, 2, 6, 7, 1}, 1},
-        // 151 agents away: the limit gives day 1 to agent 151 while agent 152 is free.
-        {"the limit before a free agent", horizontal, 200, 0, away(1, 151, 1), {151, 152}, 1},
-        {"no positions: only the log", mixed, 5, 2, noPositions, {0, 0}, 3},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    const QRegularExpression away(QStringLiteral("away (\\d+)-(\\d+) (\\d+)"));
+    for (const QStringList& row : tableRows("generation/golden/tables/serialbars.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const bool isMixed = row[1] == u"mixed";
         QTemporaryDir home;
         TestServices s;
         Workspace ws;
-        makeOffice(ws, 2023, 1, c.agents, home.path());
+        makeOffice(ws, 2023, 1, row[2].toInt(), home.path());
         fillWithOldSchedule(ws);
-        if (c.setUp) {
-            c.setUp(ws);
+        if (const QRegularExpressionMatch m = away.match(row[4]); m.hasMatch()) {
+            for (int a = m.captured(1).toInt(); a <= m.captured(2).toInt(); ++a) {
+                ws.gVacation[a][m.captured(3).toInt()] = 1;
+            }
         }
-        int cursor = c.cursor;
-        c.engine(ws, s.ctx, cursor);
-        std::vector<int> got;
-        for (int d = 1; d <= static_cast<int>(c.firstDays.size()); ++d) {
-            got.push_back(agentIn(ws, d, 1, 0));
+        ws.gRestriction[3][0][1] = row[4] == u"restricted" ? 1 : 0;
+        if (row[4] == u"no positions") {
+            setTable(ws, 0, 1);
         }
-        EXPECT_EQ(got, c.firstDays);
+        int cursor = row[3].toInt();
+        (isMixed ? mixed : horizontal)(ws, s.ctx, cursor);
+        QStringList firstDays;
+        for (qsizetype d = 1; d <= row[5].count(u',') + 1; ++d) {
+            firstDays.append(QString::number(agentIn(ws, static_cast<int>(d), 1, 0)));
+        }
+        EXPECT_EQ(firstDays.join(u','), row[5]);
+        const int base = row[6].toInt();
         EXPECT_EQ(logText(ws),
                   std::string("[09:14:03]     Generating a schedule using the Serial ") +
-                      (c.engine == mixed ? "Mixed" : "Horizontal") +
+                      (isMixed ? "Mixed" : "Horizontal") +
                       " engine\r\n[09:14:03]     Base agent is " +
-                      (ws.gAgentFirst[c.base] + u' ' + ws.gAgentLast[c.base]).toStdString() +
-                      "\r\n");
+                      (ws.gAgentFirst[base] + u' ' + ws.gAgentLast[base]).toStdString() + "\r\n");
     }
 }
