@@ -2,6 +2,7 @@
 
 #include "core/model/workspace.h"
 #include "fakes.h"
+#include "tables.h"
 
 #include <QDir>
 #include <QFile>
@@ -69,23 +70,16 @@ TEST_F(LogTest, RunHeaderWithoutMail) {
 }
 
 TEST_F(LogTest, StatusCutsOneFinalPointInTheCallersText) {
-    struct Case {
-        const char* given;
-        const char* kept;
-    };
-    const Case cases[] = {
-        {".", ""}, {"", ""}, {"a.", "a"}, {"a..", "a."}, {"no point", "no point"},
-    };
     int n = 0;
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.given);
+    for (const QStringList& row : tableRows("core/services/golden/statuslines.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
         ws.gLogFile = dir.filePath(QString::number(++n) + QStringLiteral(".log"));
-        QString text = QString::fromLatin1(c.given);
+        QString text = row[0];
 
         modStatus(ws, s.ctx, text);
 
-        EXPECT_EQ(text.toStdString(), c.kept);
-        EXPECT_EQ(fileBytes(ws.gLogFile), std::string("[09:14:03]     ") + c.kept + "\r\n");
+        EXPECT_EQ(text, row.value(1));
+        EXPECT_EQ(fileBytes(ws.gLogFile), "[09:14:03]     " + row.value(1).toStdString() + "\r\n");
     }
 }
 
