@@ -123,13 +123,9 @@ TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
 TEST_F(Cli, FailuresNameTheFileOnOneLine) {
     const QString dko = example("Example Office.dko");
     const QString old = work.filePath(QStringLiteral("old.dko"));
-    QFile::copy(dko, old);
-    QFile file(old);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    const QByteArray text = file.readAll().replace("Version=4.0.10", "Version=3.2.1");
-    file.resize(0);
-    file.write(text);
-    file.close();
+    const QString text =
+        fileText(dko).replace(QStringLiteral("Version=4.0.10"), QStringLiteral("Version=3.2.1"));
+    ASSERT_TRUE(writeTextFile(old, text));
     const QString newFile = work.filePath(QStringLiteral("new.dko"));
     const auto filled = [&](QString field) {
         return field
@@ -149,7 +145,7 @@ TEST_F(Cli, FailuresNameTheFileOnOneLine) {
                              row[2] + QLatin1Char('\n'));
     }
     EXPECT_FALSE(QFile::exists(newFile));
-    EXPECT_EQ(fileText(old), QString::fromUtf8(text));
+    EXPECT_EQ(fileText(old), text);
 }
 
 // A report as PDF files, one a document, and the trace of every call to the printer.
