@@ -202,19 +202,15 @@ TEST(Tearsheet, PagesOfSlips) {
     const auto perPage = static_cast<int>(calls.mid(0, calls.indexOf(QStringLiteral("EndDoc")))
                                               .count(QStringLiteral("FontBold = True")));
     ASSERT_GT(perPage, 1);
-    const struct {
-        int agents;
-        const char* size;
-        int documents;
-        const char* sizeAfter;
-    } cases[] = {{perPage, "8", 1, "8"}, {perPage + 1, "", 2, "8"}, {3, "300", 3, "300"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        Office o(c.agents);
-        o.ws.gTearsheetFontsize = QString::fromUtf8(c.size);
+    const std::tuple<int, const char*, int, const char*> cases[] = {
+        {perPage, "8", 1, "8"}, {perPage + 1, "", 2, "8"}, {3, "300", 3, "300"}};
+    for (const auto& [agents, size, documents, sizeAfter] : cases) {
+        SCOPED_TRACE(agents);
+        Office o(agents);
+        o.ws.gTearsheetFontsize = QString::fromUtf8(size);
         printTearsheet(o.ws, o.printers.printer());
-        EXPECT_EQ(o.documents(), c.documents);
-        EXPECT_EQ(o.ws.gTearsheetFontsize, QString::fromUtf8(c.sizeAfter));
+        EXPECT_EQ(o.documents(), documents);
+        EXPECT_EQ(o.ws.gTearsheetFontsize, QString::fromUtf8(sizeAfter));
     }
 }
 
