@@ -14,11 +14,31 @@
 
 #include <map>
 
+namespace {
+
+// A month in a home folder of its own, and its working file as the next start reads it.
+class StoredMonth : public ::testing::Test {
+protected:
+    Workspace readAgain() {
+        Workspace read;
+        openMonth(read, ws.gCurrentYear, ws.gCurrentMonth, home.path());
+        EXPECT_TRUE(modLoadWorkspace(read, s.ctx, QString()));
+        return read;
+    }
+
+    QTemporaryDir home;
+    TestServices s;
+    Workspace ws;
+};
+using DayPicker = StoredMonth;
+using Restrictions = StoredMonth;
+
+}  // namespace
+
 // The proposed names, in both tables, where the order of the rules decides.
-TEST(DayPicker, TheLastMatchingRuleProposesTheName) {
+TEST_F(DayPicker, TheLastMatchingRuleProposesTheName) {
     for (const QStringList& row : tableRows("constraints/golden/daynames.tsv")) {
         SCOPED_TRACE(row.join(u'-').toStdString());
-        Workspace ws;
         openMonth(ws, row[0].toInt(), row[1].toInt());
         ws.gEditDay = row[2].toInt();
         ws.gDayPickerMode = kPickHolidays;
@@ -30,10 +50,7 @@ TEST(DayPicker, TheLastMatchingRuleProposesTheName) {
 
 // A name is kept as the file gives it back; an empty answer or Cancel leaves the day as it
 // was, though the selection's log line stays.
-TEST(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
     openMonth(ws, 2027, 12, home.path());
     ws.gDayPickerMode = kPickHolidays;
     const QString longName(5000, QLatin1Char('x'));
@@ -56,9 +73,7 @@ TEST(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
     PickedDays picks{};
     picks[24] = picks[26] = true;
     savePickedDays(ws, s.ctx, picks);
-    Workspace reread;
-    openMonth(reread, 2027, 12, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(reread.gHolidayName[24], ws.gHolidayName[24]);
     EXPECT_EQ(reread.gHolidayName[26], ws.gHolidayName[26]);
     EXPECT_LT(reread.gHolidayName[26].size(), longName.size());
@@ -66,10 +81,7 @@ TEST(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
 
 // Turning to another agent stores the picks of the one on show at once; the list's own
 // setting and the agent on show change nothing.
-TEST(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
     makeOffice(ws, 2027, 3, 3, home.path());
     ws.gDayPickerMode = kPickVacations;
     ws.gDayPickerAgent = 2;
@@ -82,9 +94,7 @@ TEST(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
     EXPECT_EQ(ws.gDayPickerAgent, 1);
     EXPECT_EQ(pickedDays(ws), PickedDays{});
 
-    Workspace reread;
-    openMonth(reread, 2027, 3, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(vacationLines(reread),
               texts({"Ann2 Agent002", "    March 3-5", "    March 9", "    March 31"}));
 }
@@ -135,10 +145,7 @@ TEST(ShiftEditor, OKChecksTheShiftsInOrderAndKeepsWhatLiesAbove) {
 
 // OK stores the boxes of the shifts each weekday has; a restriction of a shift that a weekday
 // no longer has stays, and the view of all constraints lists it.
-TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(Restrictions, OnlyTheShiftsOnShowAreStored) {
     makeOffice(ws, 2027, 3, 3, home.path());
     setTable(ws, 2, 1);
     ws.gRestriction[3][2][4] = 1;
@@ -147,9 +154,7 @@ TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
     boxes[1][1] = boxes[2][2] = true;
     saveRestrictions(ws, s.ctx, boxes);
     EXPECT_TRUE(logged(ws, QStringLiteral("Saving shift restrictions for  ")));
-    Workspace reread;
-    openMonth(reread, 2027, 3, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(restrictionLines(reread),
               QStringList({QStringLiteral("Ann3 Agent003"),
                            QStringLiteral("    Monday, ") + ws.gShiftText[1][2],
@@ -157,10 +162,7 @@ TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
 }
 
 // The calendar's own leap years hold a 29th of February, which is stored and read back.
-TEST(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
     openMonth(ws, 2100, 2, home.path());
     ws.gEditDay = 29;
     ws.gHolidayName[29] = proposedDayName(ws);
@@ -169,8 +171,6 @@ TEST(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
         p[29] = true;
         return p;
     }());
-    Workspace reread;
-    openMonth(reread, 2100, 2, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(holidayLines(reread), texts({"President's Day, February 29"}));
 }
