@@ -33,14 +33,8 @@ TEST(AgentKeys, SuffixesFollowTheSharedCounter) {
 TEST(AgentKeys, DesiredNameOfACell) {
     Workspace ws;
     setAgents(ws, {{"Smith", "Jane"}, {"Smith", "John"}, {"Lee", "Jane"}});  // one "Smith (J.)"
-    const char* const cases[][3] = {{"1", "Smith (J.)", "Jane (S.)"},
-                                    {"1", "Lee", "Jane (L.)"},
-                                    {"1", "Gone", ""},
-                                    {"0", "Gone", "Gone"},
-                                    {"", "Lee", "Lee"}};
-    for (const auto& [useFirstName, cell, label] : cases) {
-        ws.gCalendarUseFirstName = QString::fromUtf8(useFirstName);
-        EXPECT_EQ(modGetDesiredName(ws, QString::fromUtf8(cell)), QString::fromUtf8(label))
-            << useFirstName << " " << cell;
+    for (const QStringList& row : tableRows("core/model/golden/desirednames.tsv")) {
+        ws.gCalendarUseFirstName = row[0];
+        EXPECT_EQ(modGetDesiredName(ws, row[1]), row.value(2)) << row.join(u' ').toStdString();
     }
 }
