@@ -97,15 +97,11 @@ TEST_F(Cli, KeysTellAgentsOfOneNameApart) {
 TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
     const QString in = example("Example Office.dko");
     const QString out = work.filePath(QStringLiteral("out.dko"));
-    const struct {
-        const char* engine;
-        int day;
-    } serial[] = {{"horizontal", 2}, {"mixed", 3}};
-    for (const auto& c : serial) {
-        SCOPED_TRACE(c.engine);
+    for (const auto& [engine, day] : {std::pair{"horizontal", 2}, std::pair{"mixed", 3}}) {
+        SCOPED_TRACE(engine);
         const auto generate = [&](const char* base) {
             return run({QStringLiteral("generate"), in, out, QStringLiteral("--engine"),
-                        QString::fromUtf8(c.engine), QStringLiteral("--base"),
+                        QString::fromUtf8(engine), QStringLiteral("--base"),
                         QString::fromUtf8(base)});
         };
         const Result r = generate("5");
@@ -113,7 +109,7 @@ TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
         EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + in +
                              QStringLiteral(": Generating a new schedule will erase the previous "
                                             "schedule.  Would you like to proceed?\n"));
-        EXPECT_TRUE(fileText(out).contains(QStringLiteral("=%1|1|0|Garcia (M.)\r\n").arg(c.day)));
+        EXPECT_TRUE(fileText(out).contains(QStringLiteral("=%1|1|0|Garcia (M.)\r\n").arg(day)));
         EXPECT_EQ(generate("13").code, 1);
     }
 }

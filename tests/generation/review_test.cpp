@@ -43,24 +43,22 @@ TEST(Review, ShiftFrameCaptions) {
 // The list's item n starts a serial engine from agent n + 1, over every cell, changes by hand
 // included; Shuffled takes the item as its draw count, and other engines run nothing.
 TEST(Review, RerunFromAgentStartsTheEngineAfterTheItem) {
-    const struct {
-        int engine;
-        int item;
-        int firstAgent;  // who takes the 1st, 0 when the cell is left as it was
-    } cases[] = {{kEngineHorizontal, 0, 1}, {kEngineHorizontal, 6, 7},  {kEngineMixed, 6, 7},
-                 {kEngineShuffled, 3, -1},  {kEngineSmartRandom, 6, 0}, {-1, 6, 0}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.engine);
+    // The engine; the item; who takes the 1st, 0 when the cell is left as it was.
+    const std::tuple<int, int, int> cases[] = {
+        {kEngineHorizontal, 0, 1}, {kEngineHorizontal, 6, 7},  {kEngineMixed, 6, 7},
+        {kEngineShuffled, 3, -1},  {kEngineSmartRandom, 6, 0}, {-1, 6, 0}};
+    for (const auto& [engine, item, firstAgent] : cases) {
+        SCOPED_TRACE(engine);
         January office;
         office.ws.schedule(1, 1, 0) = QStringLiteral("Leave empty");
         office.s.ctx.random.setState(99);
-        rerunFromAgent(office.ws, office.s.ctx, c.engine, c.item);
-        if (c.firstAgent >= 0) {
-            EXPECT_EQ(agentIn(office.ws, 1, 1, 0), c.firstAgent);
+        rerunFromAgent(office.ws, office.s.ctx, engine, item);
+        if (firstAgent >= 0) {
+            EXPECT_EQ(agentIn(office.ws, 1, 1, 0), firstAgent);
         } else {
-            EXPECT_NE(office.ws.gInitialAgent, c.item);  // the deal moved its count on
+            EXPECT_NE(office.ws.gInitialAgent, item);  // the deal moved its count on
         }
-        EXPECT_EQ(office.ws.schedule(1, 1, 0) == QStringLiteral("Leave empty"), c.firstAgent == 0);
+        EXPECT_EQ(office.ws.schedule(1, 1, 0) == QStringLiteral("Leave empty"), firstAgent == 0);
     }
 }
 
