@@ -1,6 +1,7 @@
 #include "core/services/textfile.h"
 #include "fakes.h"
 #include "persistence/backupring.h"
+#include "tables.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,43 +55,12 @@ protected:
 };
 
 TEST_F(Cli, AnswersAndUsage) {
-    struct Case {
-        QStringList args;
-        int code;
-        const char* out;
-    };
-    const Case cases[] = {
-        {texts({"interpret", "9 AM to 5 PM"}), 0, "True\t09:00 AM\t05:00 PM\n"},
-        {{}, 2, ""},
-        {texts({"calendar"}), 2, ""},
-        {texts({"month", "1996"}), 2, ""},
-        {texts({"month", "1996", "Jan"}), 2, ""},
-        {texts({"month", "1996", "13"}), 2, ""},
-        {texts({"interpret", "9am", "5pm"}), 2, ""},
-        {texts({"resave", "--working", "in.ini"}), 2, ""},
-        {texts({"keys"}), 2, ""},
-        {texts({"generate", "in.dko", "out.dko"}), 2, ""},
-        {texts({"generate", "in.dko", "out.dko", "--engine", "best"}), 2, ""},
-        {texts({"generate", "in.dko", "--engine", "mixed"}), 2, ""},
-        {texts({"generate", "in.dko", "out.dko", "--engine", "shuffled", "--base", "2"}), 2, ""},
-        {texts({"generate", "in.dko", "out.dko", "--engine", "mixed", "--seed", "16777216"}), 2,
-         ""},
-        {texts({"generate", "in.dko", "out.dko", "--engine", "mixed", "--fast"}), 2, ""},
-        {texts({"export"}), 2, ""},
-        {texts({"export", "in.dko", "--csv"}), 2, ""},
-        {texts({"export", "in.dko", "--email", "more.dko"}), 2, ""},
-        {texts({"export", "in.dko", "--email"}), 1, ""},
-        {texts({"balance"}), 2, ""},
-        {texts({"balance", "in.dko", "--format", "csv"}), 2, ""},
-        {texts({"balance", "in.dko", "more.dko"}), 2, ""},
-        {texts({"balance", "in.dko"}), 1, ""},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.args.join(QLatin1Char(' ')).toStdString());
-        const Result r = run(c.args);
-        EXPECT_EQ(r.code, c.code);
-        EXPECT_EQ(r.out, QString::fromUtf8(c.out));
-        EXPECT_EQ(r.err.startsWith(QStringLiteral("usage: desko40-cli")), c.code == 2);
+    for (const QStringList& row : tableRows("cli/golden/answers.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const Result r = run(row[0].split(QLatin1Char('|'), Qt::SkipEmptyParts));
+        EXPECT_EQ(r.code, row[1].toInt());
+        EXPECT_EQ(r.out, row.value(2));
+        EXPECT_EQ(r.err.startsWith(QStringLiteral("usage: desko40-cli")), r.code == 2);
     }
 }
 
@@ -117,12 +87,7 @@ TEST_F(Cli, BalanceTellsTheHandCountedMonths) {
 TEST_F(Cli, KeysTellAgentsOfOneNameApart) {
     const Result r = run({QStringLiteral("keys"), example("Example Office.dko")});
     EXPECT_EQ(r.code, 0);
-    const QStringList lines = r.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    ASSERT_EQ(lines.size(), 12);
-    EXPECT_EQ(lines[0], QStringLiteral("1\tBrennan\tPatrick"));
-    EXPECT_EQ(lines[3], QStringLiteral("4\tFischer\tAnna (F.)"));
-    EXPECT_EQ(lines[4], QStringLiteral("5\tGarcia (M.)\tMaria"));
-    EXPECT_EQ(lines[5], QStringLiteral("6\tGarcia (R.)\tRoberto"));
+    EXPECT_EQ(r.out, testFileText("cli/golden/example-keys.txt"));
 }
 
 // Each question of the command is answered Yes and shown on standard error; a serial engine
@@ -132,15 +97,11 @@ TEST_F(Cli, KeysTellAgentsOfOneNameApart) {
 TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
     const QString in = example("Example Office.dko");
     const QString out = work.filePath(QStringLiteral("out.dko"));
-    const struct {
-        const char* engine;
-        int day;
-    } serial[] = {{"horizontal", 2}, {"mixed", 3}};
-    for (const auto& c : serial) {
-        SCOPED_TRACE(c.engine);
+    for (const auto& [engine, day] : {std::pair{"horizontal", 2}, std::pair{"mixed", 3}}) {
+        SCOPED_TRACE(engine);
         const auto generate = [&](const char* base) {
             return run({QStringLiteral("generate"), in, out, QStringLiteral("--engine"),
-                        QString::fromUtf8(c.engine), QStringLiteral("--base"),
+                        QString::fromUtf8(engine), QStringLiteral("--base"),
                         QString::fromUtf8(base)});
         };
         const Result r = generate("5");
@@ -148,7 +109,7 @@ TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
         EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + in +
                              QStringLiteral(": Generating a new schedule will erase the previous "
                                             "schedule.  Would you like to proceed?\n"));
-        EXPECT_TRUE(fileText(out).contains(QStringLiteral("=%1|1|0|Garcia (M.)\r\n").arg(c.day)));
+        EXPECT_TRUE(fileText(out).contains(QStringLiteral("=%1|1|0|Garcia (M.)\r\n").arg(day)));
         EXPECT_EQ(generate("13").code, 1);
     }
 }
@@ -158,51 +119,29 @@ TEST_F(Cli, GenerateAnswersYesAndStartsFromTheAgentGiven) {
 TEST_F(Cli, FailuresNameTheFileOnOneLine) {
     const QString dko = example("Example Office.dko");
     const QString old = work.filePath(QStringLiteral("old.dko"));
-    QFile::copy(dko, old);
-    QFile file(old);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    const QByteArray text = file.readAll().replace("Version=4.0.10", "Version=3.2.1");
-    file.resize(0);
-    file.write(text);
-    file.close();
-    const QString missing = work.filePath(QStringLiteral("missing.dko"));
-    const QString nowhere = work.filePath(QStringLiteral("no such folder/out.dko"));
-    struct Case {
-        QStringList args;
-        QString named;
-        QString says;
+    const QString text =
+        fileText(dko).replace(QStringLiteral("Version=4.0.10"), QStringLiteral("Version=3.2.1"));
+    ASSERT_TRUE(writeTextFile(old, text));
+    const QString newFile = work.filePath(QStringLiteral("new.dko"));
+    const auto filled = [&](QString field) {
+        return field
+            .replace(QStringLiteral("{missing}"), work.filePath(QStringLiteral("missing.dko")))
+            .replace(QStringLiteral("{folder}"), work.path())
+            .replace(QStringLiteral("{nowhere}"),
+                     work.filePath(QStringLiteral("no such folder/out.dko")))
+            .replace(QStringLiteral("{office}"), dko)
+            .replace(QStringLiteral("{old}"), old)
+            .replace(QStringLiteral("{new}"), newFile);
     };
-    const Case cases[] = {
-        {{QStringLiteral("keys"), missing}, missing, QStringLiteral("cannot be read")},
-        {{QStringLiteral("keys"), work.path()}, work.path(), QStringLiteral("cannot be read")},
-        {{QStringLiteral("backups"), missing}, missing, QStringLiteral("is no folder")},
-        {{QStringLiteral("restore"), missing, work.path()},
-         missing,
-         QStringLiteral("cannot be read")},
-        {{QStringLiteral("resave"), dko, nowhere}, nowhere, QStringLiteral("cannot be written")},
-        {{QStringLiteral("print"), missing, QStringLiteral("--report"), QStringLiteral("grid"),
-          QStringLiteral("--pdf"), nowhere},
-         missing,
-         QStringLiteral("cannot be read")},
-        {{QStringLiteral("print"), dko, QStringLiteral("--report"), QStringLiteral("grid"),
-          QStringLiteral("--pdf"), nowhere},
-         nowhere,
-         QStringLiteral("cannot be written")},
-        {{QStringLiteral("resave"), old, work.filePath(QStringLiteral("new.dko"))},
-         old,
-         QStringLiteral("The file you are attempting to open cannot be read by this version of "
-                        "the program.  Please open this DKO file using the version of Desko for "
-                        "Windows with which it was created.")},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.args.join(QLatin1Char(' ')).toStdString());
-        const Result r = run(c.args);
+    for (const QStringList& row : tableRows("cli/golden/failures.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const Result r = run(filled(row[0]).split(QLatin1Char('|')));
         EXPECT_EQ(r.code, 1);
-        EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + c.named + QStringLiteral(": ") + c.says +
-                             QLatin1Char('\n'));
+        EXPECT_EQ(r.err, QStringLiteral("desko40-cli: ") + filled(row[1]) + QStringLiteral(": ") +
+                             row[2] + QLatin1Char('\n'));
     }
-    EXPECT_FALSE(QFile::exists(work.filePath(QStringLiteral("new.dko"))));
-    EXPECT_EQ(fileText(old), QString::fromUtf8(text));
+    EXPECT_FALSE(QFile::exists(newFile));
+    EXPECT_EQ(fileText(old), text);
 }
 
 // A report as PDF files, one a document, and the trace of every call to the printer.

@@ -6,52 +6,51 @@
 #include "fakes.h"
 #include "offices.h"
 #include "persistence/workspacefile.h"
+#include "tables.h"
 
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <map>
+
+namespace {
+
+// A month in a home folder of its own, and its working file as the next start reads it.
+class StoredMonth : public ::testing::Test {
+protected:
+    Workspace readAgain() {
+        Workspace read;
+        openMonth(read, ws.gCurrentYear, ws.gCurrentMonth, home.path());
+        EXPECT_TRUE(modLoadWorkspace(read, s.ctx, QString()));
+        return read;
+    }
+
+    QTemporaryDir home;
+    TestServices s;
+    Workspace ws;
+};
+using DayPicker = StoredMonth;
+using Restrictions = StoredMonth;
+
+}  // namespace
+
 // The proposed names, in both tables, where the order of the rules decides.
-TEST(DayPicker, TheLastMatchingRuleProposesTheName) {
-    const struct {
-        int year, month, day;
-        const char* holiday;
-        const char* noted;
-    } cases[] = {
-        {2027, 1, 18, "Martin Luther King, Jr. Day", "Martin Luther King, Jr. Day"},
-        {2027, 2, 1, "President's Day", "President's Day"},
-        {2027, 2, 22, "Washington's Birthday", "Washington's Birthday"},
-        {2022, 2, 14, "Valentine's Day", "President's Day"},
-        {2027, 5, 9, "Mother's Day", "Mother's Day"},
-        // May 2027 begins on a Saturday: its fourth Monday, not its last, is proposed.
-        {2027, 5, 24, "Memorial Day", "Memorial Day"},
-        {2027, 5, 31, "Office Holiday", ""},
-        {2028, 5, 29, "Memorial Day", "Memorial Day"},
-        {2027, 6, 20, "Father's Day", "Father's Day"},
-        {2027, 9, 6, "Labor Day", "Labor Day"},
-        {2027, 11, 1, "Office Holiday", "All Saints' Day"},
-        {2027, 11, 25, "Thanksgiving Day", "Thanksgiving Day"},
-        {2027, 12, 25, "Christmas Day", "Christmas"},
-        {2027, 3, 3, "Office Holiday", ""},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(QStringLiteral("%1-%2-%3").arg(c.year).arg(c.month).arg(c.day).toStdString());
-        Workspace ws;
-        openMonth(ws, c.year, c.month);
-        ws.gEditDay = c.day;
+TEST_F(DayPicker, TheLastMatchingRuleProposesTheName) {
+    for (const QStringList& row : tableRows("constraints/golden/daynames.tsv")) {
+        SCOPED_TRACE(row.join(u'-').toStdString());
+        openMonth(ws, row[0].toInt(), row[1].toInt());
+        ws.gEditDay = row[2].toInt();
         ws.gDayPickerMode = kPickHolidays;
-        EXPECT_EQ(proposedDayName(ws), QString::fromUtf8(c.holiday));
+        EXPECT_EQ(proposedDayName(ws), row[3]);
         ws.gDayPickerMode = kPickNotedDays;
-        EXPECT_EQ(proposedDayName(ws), QString::fromUtf8(c.noted));
+        EXPECT_EQ(proposedDayName(ws), row.value(4));
     }
 }
 
 // A name is kept as the file gives it back; an empty answer or Cancel leaves the day as it
 // was, though the selection's log line stays.
-TEST(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
     openMonth(ws, 2027, 12, home.path());
     ws.gDayPickerMode = kPickHolidays;
     const QString longName(5000, QLatin1Char('x'));
@@ -74,9 +73,7 @@ TEST(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
     PickedDays picks{};
     picks[24] = picks[26] = true;
     savePickedDays(ws, s.ctx, picks);
-    Workspace reread;
-    openMonth(reread, 2027, 12, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(reread.gHolidayName[24], ws.gHolidayName[24]);
     EXPECT_EQ(reread.gHolidayName[26], ws.gHolidayName[26]);
     EXPECT_LT(reread.gHolidayName[26].size(), longName.size());
@@ -84,10 +81,7 @@ TEST(DayPicker, ANameIsAskedForAndKeptAsTheFileReadsIt) {
 
 // Turning to another agent stores the picks of the one on show at once; the list's own
 // setting and the agent on show change nothing.
-TEST(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
     makeOffice(ws, 2027, 3, 3, home.path());
     ws.gDayPickerMode = kPickVacations;
     ws.gDayPickerAgent = 2;
@@ -100,9 +94,7 @@ TEST(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
     EXPECT_EQ(ws.gDayPickerAgent, 1);
     EXPECT_EQ(pickedDays(ws), PickedDays{});
 
-    Workspace reread;
-    openMonth(reread, 2027, 3, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(vacationLines(reread),
               texts({"Ann2 Agent002", "    March 3-5", "    March 9", "    March 31"}));
 }
@@ -110,35 +102,12 @@ TEST(DayPicker, AnotherAgentSavesThePicksOfTheOneOnShow) {
 // The editor's OK: the question for no shifts, the checks in order with their messages, and
 // what reaches the table.
 TEST(ShiftEditor, OKChecksTheShiftsInOrderAndKeepsWhatLiesAbove) {
-    const struct {
-        const char* name;
-        int count;
-        std::array<const char*, 3> texts;
-        std::deque<MsgAnswer> answers;
-        DaySaveResult::End end;
-        int shift;
-        int storedCount;
-        const char* firstBox;  // the start of the first box's text, or ""
-    } cases[] = {
-        // clang-format off
-        {"two good shifts", 2, {" 9am-1pm ", "1pm-5pm", ""}, {}, DaySaveResult::End::Saved, 0, 2, ""},
-        {"no shifts, No", 0, {}, {MsgAnswer::No}, DaySaveResult::End::Kept, 0, 3,
-         "If you proceed, no agents will receive shifts on Monday."},
-        {"no shifts, Yes", 0, {}, {MsgAnswer::Yes}, DaySaveResult::End::Saved, 0, 0, "If you"},
-        {"bad before empty", 2, {"soon", "", ""}, {MsgAnswer::Yes}, DaySaveResult::End::FixShift, 1, 3,
-         "The time for the first shift could not be interpreted."},
-        {"bad kept", 2, {"9am-1pm", "soon", ""}, {MsgAnswer::No}, DaySaveResult::End::Saved, 0, 2,
-         "The time for the second shift"},
-        {"empty", 3, {"9am-1pm", "1pm-5pm", "  "}, {}, DaySaveResult::End::FixShift, 3, 3,
-         "Please fill in the time for the third shift."},
-        {"separator", 1, {"9am|5pm", "", ""}, {}, DaySaveResult::End::FixShift, 1, 3,
-         "The time for the first shift cannot be kept"},
-        {"bad, then a line break", 2, {"soon", "9am\n5pm", ""}, {MsgAnswer::No},
-         DaySaveResult::End::FixShift, 2, 3, "The time for the first shift could not"},
-        // clang-format on
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    const std::map<QString, DaySaveResult::End> ends = {
+        {QStringLiteral("Saved"), DaySaveResult::End::Saved},
+        {QStringLiteral("Kept"), DaySaveResult::End::Kept},
+        {QStringLiteral("FixShift"), DaySaveResult::End::FixShift}};
+    for (const QStringList& row : tableRows("constraints/golden/shiftedits.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
         QTemporaryDir home;
         TestServices s;
         Workspace ws;
@@ -146,39 +115,37 @@ TEST(ShiftEditor, OKChecksTheShiftsInOrderAndKeepsWhatLiesAbove) {
         setTable(ws, 3, 1);
         ws.gShiftText[1] = {QString(), QStringLiteral("a"), QStringLiteral("b"),
                             QStringLiteral("c")};
-        s.dialogs.answers = c.answers;
+        for (const QChar answer : row[5]) {
+            s.dialogs.answers.push_back(answer == u'Y' ? MsgAnswer::Yes : MsgAnswer::No);
+        }
         DayShifts day;
-        day.count = c.count;
+        day.count = row[1].toInt();
         for (int n = 0; n < 3; ++n) {
-            day.texts[n] = QString::fromUtf8(c.texts[n]);
+            day.texts[n] = row[2 + n];
             day.highestSlots[n] = n;
         }
         const DaySaveResult result = saveDayShifts(ws, s.ctx, 1, day);
-        EXPECT_EQ(result.end, c.end);
-        EXPECT_EQ(result.shift, c.shift);
-        EXPECT_EQ(ws.gShiftCount[1], c.storedCount);
+        const bool saved = row[6] == u"Saved";
+        EXPECT_EQ(result.end, ends.at(row[6]));
+        EXPECT_EQ(result.shift, row[7].toInt());
+        EXPECT_EQ(ws.gShiftCount[1], row[8].toInt());
         const QStringList shown = s.dialogs.texts();
-        EXPECT_EQ(shown.isEmpty(), *c.firstBox == '\0');
+        EXPECT_EQ(shown.isEmpty(), row.value(9).isEmpty());
         if (!shown.isEmpty()) {
-            EXPECT_TRUE(shown.front().simplified().startsWith(QString::fromUtf8(c.firstBox)))
+            EXPECT_TRUE(shown.front().simplified().startsWith(row[9]))
                 << shown.front().toStdString();
         }
-        if (c.end == DaySaveResult::End::Saved && c.count > 0) {
-            EXPECT_EQ(ws.gShiftText[1][1], QString::fromUtf8(c.texts[0]).trimmed());
+        if (saved && day.count > 0) {
+            EXPECT_EQ(ws.gShiftText[1][1], row[2].trimmed());
         }
         // The shift above the chosen number keeps its text.
-        EXPECT_EQ(ws.gShiftText[1][3], c.end == DaySaveResult::End::Saved && c.count == 3
-                                           ? QString::fromUtf8(c.texts[2])
-                                           : QStringLiteral("c"));
+        EXPECT_EQ(ws.gShiftText[1][3], saved && day.count == 3 ? row[4] : QStringLiteral("c"));
     }
 }
 
 // OK stores the boxes of the shifts each weekday has; a restriction of a shift that a weekday
 // no longer has stays, and the view of all constraints lists it.
-TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(Restrictions, OnlyTheShiftsOnShowAreStored) {
     makeOffice(ws, 2027, 3, 3, home.path());
     setTable(ws, 2, 1);
     ws.gRestriction[3][2][4] = 1;
@@ -187,9 +154,7 @@ TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
     boxes[1][1] = boxes[2][2] = true;
     saveRestrictions(ws, s.ctx, boxes);
     EXPECT_TRUE(logged(ws, QStringLiteral("Saving shift restrictions for  ")));
-    Workspace reread;
-    openMonth(reread, 2027, 3, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(restrictionLines(reread),
               QStringList({QStringLiteral("Ann3 Agent003"),
                            QStringLiteral("    Monday, ") + ws.gShiftText[1][2],
@@ -197,10 +162,7 @@ TEST(Restrictions, OnlyTheShiftsOnShowAreStored) {
 }
 
 // The calendar's own leap years hold a 29th of February, which is stored and read back.
-TEST(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
-    QTemporaryDir home;
-    TestServices s;
-    Workspace ws;
+TEST_F(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
     openMonth(ws, 2100, 2, home.path());
     ws.gEditDay = 29;
     ws.gHolidayName[29] = proposedDayName(ws);
@@ -209,8 +171,6 @@ TEST(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
         p[29] = true;
         return p;
     }());
-    Workspace reread;
-    openMonth(reread, 2100, 2, home.path());
-    ASSERT_TRUE(modLoadWorkspace(reread, s.ctx, QString()));
+    const Workspace reread = readAgain();
     EXPECT_EQ(holidayLines(reread), texts({"President's Day, February 29"}));
 }

@@ -8,6 +8,7 @@
 #include "environment/probe.h"
 #include "environment/rights.h"
 #include "fakes.h"
+#include "tables.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -63,28 +64,11 @@ TEST(EnvironmentProbe, TheRunHeaderTellsTheMachinesStory) {
 // Memory counts in the 640 kilobytes the system keeps, and rounds; the disk's clusters are
 // divided first, and a product beyond 32 bits gives 0.
 TEST(EnvironmentProbe, FiguresAsTheyWereAlwaysReckoned) {
-    const struct {
-        qint64 bytes;
-        long long megabytes;
-    } memory[] = {
-        {133562368, 128},                         // 128 MB less 640 KB
-        {1048576LL * 99 - 655360 + 524288, 100},  // 99.5 MB rounds up
-        {1048576LL * 99 - 655360 + 524287, 99},
-    };
-    for (const auto& c : memory) {
-        EXPECT_EQ(memoryMegabytes(c.bytes), c.megabytes) << c.bytes;
-    }
-    const struct {
-        qint64 clusters;
-        qint64 bytesPerCluster;
-        long long megabytes;
-    } disks[] = {
-        {1023, 4096, 0},
-        {1024 * 2047, 1 << 20, 2096128},
-        {1024 * 2048, 1 << 20, 0},  // 2 GB per 1024 clusters overflows
-    };
-    for (const auto& c : disks) {
-        EXPECT_EQ(diskMegabytes(c.clusters, c.bytesPerCluster), c.megabytes) << c.clusters;
+    for (const QStringList& row : tableRows("environment/golden/figures.tsv")) {
+        SCOPED_TRACE(row.join(u' ').toStdString());
+        EXPECT_EQ(row[0] == u"memory" ? memoryMegabytes(row[1].toLongLong())
+                                      : diskMegabytes(row[1].toLongLong(), row[2].toLongLong()),
+                  row.last().toLongLong());
     }
 }
 
@@ -93,61 +77,29 @@ TEST(EnvironmentProbe, FiguresAsTheyWereAlwaysReckoned) {
 // be written, only the store is told. A settings file that cannot be read whole is not
 // written over.
 TEST(RightsCheck, WarnsOfWhatCannotBeWritten) {
-    const QString first = QStringLiteral(
-        "Your current user account does not appear to have\r\nthe rights "
-        "necessary to run Desko for Windows.  \r\nSpecifically, you may not be "
-        "able to read or write \r\n");
-    const QString last = QStringLiteral(
-        "\r\n\r\nPlease log in as the Administrator, or add your\r\ncurrent user account to "
-        "the Local Administrators \r\ngroup.");
-    const QString registry =
-        first +
-        QStringLiteral(
-            "from the registry.\r\n\r\nDesko for Windows will continue to load, but "
-            "you\r\nmay not be able save agent information or program \r\nsettings.") +
-        last;
-    const QString folder =
-        first +
-        QStringLiteral(
-            "to the program directory.\r\n\r\nDesko for Windows will continue to "
-            "load, but you\r\nmay not be able save program settings or log \r\nfiles.") +
-        last;
-    const QString settings = QStringLiteral("[Settings]\nVersion=4.0.10\n");
-    const QString damaged = QStringLiteral("[Settings\nVersion=4.0.10\n");
-    const struct {
-        QString store;
-        bool storeReadOnly;
-        bool folderReadOnly;
-        QStringList shown;
-    } cases[] = {
-        {settings, false, false, {}},        {settings, true, false, {registry}},
-        {settings, false, true, {folder}},   {settings, true, true, {registry}},
-        {damaged, false, false, {registry}},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message()
-                     << c.store.toStdString() << c.storeReadOnly << c.folderReadOnly);
+    for (const QStringList& row : tableRows("environment/golden/rights.tsv")) {
+        SCOPED_TRACE(row.mid(0, 3).join(u' ').toStdString());
+        const QStringList shown = row.value(3).isEmpty() ? QStringList() : QStringList{row[3]};
         QTemporaryDir home;
         QTemporaryDir storeDir;
         const QString storeFile = storeDir.filePath(QStringLiteral("store.conf"));
-        ASSERT_TRUE(writeTextFile(storeFile, c.store));
+        ASSERT_TRUE(writeTextFile(storeFile, row[0]));
         const auto readOnly = QFile::ReadOwner | QFile::ExeOwner;
-        QFile::setPermissions(storeFile,
-                              c.storeReadOnly ? readOnly : QFile::permissions(storeFile));
+        QFile::setPermissions(storeFile, row[1] == u"1" ? readOnly : QFile::permissions(storeFile));
         QFile::setPermissions(home.path(),
-                              c.folderReadOnly ? readOnly : QFile::permissions(home.path()));
+                              row[2] == u"1" ? readOnly : QFile::permissions(home.path()));
         SettingsRegistryStore store(storeFile, kRegistryBase);
         TestServices s;
         Context ctx{s.clock, s.dialogs, store, {}, {}, {}};
         Workspace ws;
         modInitSession(ws, home.path());
 
-        EXPECT_EQ(modCheckRights(ws, ctx), c.shown.isEmpty());
+        EXPECT_EQ(modCheckRights(ws, ctx), shown.isEmpty());
 
         QFile::setPermissions(home.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        EXPECT_EQ(s.dialogs.texts(), c.shown);
+        EXPECT_EQ(s.dialogs.texts(), shown);
         EXPECT_TRUE(s.dialogs.shown.empty() || s.dialogs.shown[0].icon == MsgIcon::Stop);
         EXPECT_EQ(QDir(home.path()).entryList(QDir::Files), QStringList());
-        EXPECT_EQ(fileText(storeFile), c.store);
+        EXPECT_EQ(fileText(storeFile), row[0]);
     }
 }

@@ -25,42 +25,40 @@ struct January {
 
 }  // namespace
 
-TEST(Review, HolidayMessageAndShiftFrameCaptions) {
-    January office;
-    Workspace& ws = office.ws;
-    ws.gHolidayName[1] = QStringLiteral("New Year's Day");
-    EXPECT_EQ(holidayMessage(ws, 1), QStringLiteral("January 1 is New Year's Day."));
-    ws.gShiftText[2][1] = QStringLiteral("8:00 - 12:00");
-    const char* const words[] = {"First", "Second", "Third", "Fourth", "Fifth", "Sixth"};
+// The day editor's frames name each shift by its order and its time. What a holiday's click
+// says is the review form's test.
+TEST(Review, ShiftFrameCaptions) {
+    Workspace ws;
+    ws.gShiftText[2] = {
+        QString(), QStringLiteral("7:00"),         QStringLiteral("8:00"), QString(), QString(),
+        QString(), QStringLiteral("12:00 - 17:00")};
+    QStringList captions;
     for (int n = 1; n <= 6; ++n) {
-        ws.gShiftText[2][n] = QStringLiteral("%1:00").arg(n + 6);
-        EXPECT_EQ(
-            shiftFrameCaption(ws, 2, n),
-            QString::fromUtf8(words[n - 1]) + QStringLiteral(" shift: ") + ws.gShiftText[2][n]);
+        captions.append(shiftFrameCaption(ws, 2, n));
     }
+    EXPECT_EQ(captions, texts({"First shift: 7:00", "Second shift: 8:00", "Third shift: ",
+                               "Fourth shift: ", "Fifth shift: ", "Sixth shift: 12:00 - 17:00"}));
 }
 
 // The list's item n starts a serial engine from agent n + 1, over every cell, changes by hand
 // included; Shuffled takes the item as its draw count, and other engines run nothing.
 TEST(Review, RerunFromAgentStartsTheEngineAfterTheItem) {
-    const struct {
-        int engine;
-        int item;
-        int firstAgent;  // who takes the 1st, 0 when the cell is left as it was
-    } cases[] = {{kEngineHorizontal, 0, 1}, {kEngineHorizontal, 6, 7},  {kEngineMixed, 6, 7},
-                 {kEngineShuffled, 3, -1},  {kEngineSmartRandom, 6, 0}, {-1, 6, 0}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.engine);
+    // The engine; the item; who takes the 1st, 0 when the cell is left as it was.
+    const std::tuple<int, int, int> cases[] = {
+        {kEngineHorizontal, 0, 1}, {kEngineHorizontal, 6, 7},  {kEngineMixed, 6, 7},
+        {kEngineShuffled, 3, -1},  {kEngineSmartRandom, 6, 0}, {-1, 6, 0}};
+    for (const auto& [engine, item, firstAgent] : cases) {
+        SCOPED_TRACE(engine);
         January office;
         office.ws.schedule(1, 1, 0) = QStringLiteral("Leave empty");
         office.s.ctx.random.setState(99);
-        rerunFromAgent(office.ws, office.s.ctx, c.engine, c.item);
-        if (c.firstAgent >= 0) {
-            EXPECT_EQ(agentIn(office.ws, 1, 1, 0), c.firstAgent);
+        rerunFromAgent(office.ws, office.s.ctx, engine, item);
+        if (firstAgent >= 0) {
+            EXPECT_EQ(agentIn(office.ws, 1, 1, 0), firstAgent);
         } else {
-            EXPECT_NE(office.ws.gInitialAgent, c.item);  // the deal moved its count on
+            EXPECT_NE(office.ws.gInitialAgent, item);  // the deal moved its count on
         }
-        EXPECT_EQ(office.ws.schedule(1, 1, 0) == QStringLiteral("Leave empty"), c.firstAgent == 0);
+        EXPECT_EQ(office.ws.schedule(1, 1, 0) == QStringLiteral("Leave empty"), firstAgent == 0);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "core/model/workspace.h"
 #include "fakes.h"
 #include "offices.h"
+#include "tables.h"
 
 #include <QTemporaryDir>
 
@@ -101,25 +102,14 @@ TEST(SmartRandom, RepairEvensOutWeekendsAndLeavesEvenOnesAlone) {
 // agent twice in a day while another is left, and the first agent selected. Without weekend
 // positions to compare the repair ends before its first exchange.
 TEST(SmartRandom, FillsEveryPositionWhateverTheConstraints) {
-    const struct {
-        const char* name;
-        int agents, weekendShifts, weekdayShifts, agentsPerShift;
-        bool holidays;      // every day a holiday
-        int everybodyAway;  // a day, or 0
-        bool repairs;
-    } cases[] = {
-        {"every day a holiday", 5, 1, 2, 1, true, 0, false},
-        {"one agent, two shifts of two", 1, 2, 2, 2, false, 0, false},
-        {"everybody away on the 6th", 10, 1, 3, 2, false, 6, true},
-        {"no weekend shifts", 4, 0, 2, 1, false, 0, false},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const QStringList& row : tableRows("generation/golden/tables/smartrandomfills.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const int agents = row[1].toInt();
         Workspace ws;
-        makeJanuary(ws, c.agents, c.weekendShifts, c.weekdayShifts, c.agentsPerShift);
+        makeJanuary(ws, agents, row[2].toInt(), row[3].toInt(), row[4].toInt());
         for (int d = 1; d <= 31; ++d) {
-            ws.gHoliday[d] = c.holidays ? 1 : 0;
-            for (int a = 1; a <= c.agents && d == c.everybodyAway; ++a) {
+            ws.gHoliday[d] = row[5].toInt();
+            for (int a = 1; a <= agents && d == row[6].toInt(); ++a) {
                 ws.gVacation[a][d] = 1;
             }
         }
@@ -141,7 +131,7 @@ TEST(SmartRandom, FillsEveryPositionWhateverTheConstraints) {
                       std::min(positionsOf[d], ws.gAgentCount))
                 << "day " << d;
         }
-        EXPECT_EQ(rounds > 0, c.repairs);
+        EXPECT_EQ(rounds > 0, row[7] == u"1");
         EXPECT_EQ(ws.gSelectedAgent, 0);
     }
 }

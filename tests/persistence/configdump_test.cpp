@@ -4,6 +4,7 @@
 #include "core/services/textfile.h"
 #include "fakes.h"
 #include "persistence/workspacefile.h"
+#include "tables.h"
 
 #include <QTemporaryDir>
 
@@ -12,13 +13,6 @@
 namespace {
 
 using Kind = ScriptedDialogs::FileKind;
-
-// A dump, and the working file and the log it restores.
-struct Restoring {
-    const char* dump;
-    const char* workingFile;
-    const char* log;
-};
 
 QString crlf(const char* text) {
     return QString::fromUtf8(text).replace(QStringLiteral("\n"), QStringLiteral("\r\n"));
@@ -31,23 +25,11 @@ TEST(ConfigurationDump, TakesTheWorkingFileUpToTheFirstSeparatorAndTheLogAfterIt
     // A file without a line still gives one.
     EXPECT_EQ(dumpText(QString(), QString()), crlf("\n\n<SNIP>\n\n\n"));
 
-    const Restoring cases[] = {
-        {"[Agents]\r\n\r\n<SNIP>\r\n\r\n[09:00:00]     one\r\n", "[Agents]\n\n<SNIP>\n",
-         "\n[09:00:00]     one\n"},
-        // Only the first separator counts, so a log may hold the line too.
-        {"a\r\n\r\n<SNIP>\r\n\r\nx\r\n<SNIP>\r\ny\r\n", "a\n\n<SNIP>\n", "\nx\n<SNIP>\ny\n"},
-        // Any text file is taken: without a separator all of it is the working file.
-        {"[Agents]\r\n1=A|B|\r\n", "[Agents]\n1=A|B|\n", "\n"},
-        {"", "\n", "\n"},
-        {"a\r\n<SNIP>", "a\n<SNIP>\n", "\n"},
-        // Lines ended as on other systems.
-        {"a\nb\n<SNIP>\nc", "a\nb\n<SNIP>\n", "c\n"},
-        {"a\rb\r<SNIP>\rc\r", "a\nb\n<SNIP>\n", "c\n"},
-    };
-    for (const Restoring& c : cases) {
-        const RestoredFiles files = restoredFiles(QString::fromUtf8(c.dump));
-        EXPECT_EQ(files.workingFile, crlf(c.workingFile)) << c.dump;
-        EXPECT_EQ(files.log, crlf(c.log)) << c.dump;
+    for (const QStringList& row : tableRows("persistence/golden/restoreddump.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const RestoredFiles files = restoredFiles(row[0]);
+        EXPECT_EQ(files.workingFile, row[1]);
+        EXPECT_EQ(files.log, row[2]);
     }
 }
 

@@ -5,8 +5,10 @@
 #include "core/services/textfile.h"
 #include "fakes.h"
 #include "persistence/storecheck.h"
+#include "tables.h"
 
 #include <QFile>
+#include <QMap>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -18,62 +20,54 @@
 // of a rights check that never ended, is left alone, and so is a file that cannot be a store.
 TEST(OldStore, MovesIntoTheWorkingFileOnce) {
     const QString version = QStringLiteral("[Settings]\nVersion=4.0.10\n");
-    const struct {
-        QString store;
-        bool readOnly;
-        bool workingFile;
-        bool moved;
-        qsizetype keysLeft;
-        bool homeMissing = false;
-        bool unreadable = false;
-    } cases[] = {
-        {golden("oldstore.conf"), false, false, true, 0},
-        {golden("oldstore.conf"), true, false, true, 9},
-        {golden("oldstore.conf"), true, true, false, 9},
-        {golden("oldstore.conf"), false, false, false, 9, true},
-        {version, false, false, false, 1},
-        {version + QStringLiteral("[Test]\nTest=Test\n"), false, false, false, 2},
-        {golden("oldstore.conf") + QString(1 << 20, QLatin1Char(';')), false, true, false, 0, false,
-         true},
-        {golden("oldstore.conf") + QChar(0), false, true, false, 0, false, true},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.readOnly << c.workingFile << c.store.size());
+    const QMap<QString, QString> stores = {
+        {QStringLiteral("old"), golden("oldstore.conf")},
+        {QStringLiteral("old, long"), golden("oldstore.conf") + QString(1 << 20, u';')},
+        {QStringLiteral("old, null"), golden("oldstore.conf") + QChar(0)},
+        {QStringLiteral("this"), version},
+        {QStringLiteral("this, test"), version + QStringLiteral("[Test]\nTest=Test\n")}};
+    for (const QStringList& row : tableRows("persistence/golden/oldstores.tsv")) {
+        SCOPED_TRACE(row.join(u' ').toStdString());
+        const QString storeText = stores.value(row[0]);
+        const bool readOnly = row[1] == u"1";
+        const bool workingFile = row[2] == u"1";
+        const bool moved = row[3] == u"1";
+        const bool unreadable = row[5] == u"1";
         QTemporaryDir home;
         QTemporaryDir settings;
         const QString storeFile = settings.filePath(QStringLiteral("store.conf"));
-        ASSERT_TRUE(writeTextFile(storeFile, c.store));
-        if (c.readOnly) {
+        ASSERT_TRUE(writeTextFile(storeFile, storeText));
+        if (readOnly) {
             QFile::setPermissions(storeFile, QFile::ReadOwner);
         }
         SettingsRegistryStore store(storeFile, kRegistryBase);
         TestServices s;
         Context ctx{s.clock, s.dialogs, store, {}, {}, {}};
         Workspace ws;
-        modInitSession(ws, c.homeMissing ? home.filePath(QStringLiteral("gone")) : home.path());
+        modInitSession(ws, row[4] == u"1" ? home.filePath(QStringLiteral("gone")) : home.path());
         modInitNameTables(ws);
         const QString before = golden("office.ini");
-        if (c.workingFile) {
+        if (workingFile) {
             ASSERT_TRUE(writeTextFile(ws.gConfigFile, before));
         }
 
         modMigrateOrCheckStore(ws, ctx);
 
-        EXPECT_EQ(logged(ws, QStringLiteral("Found version of software predating 4.0.7")), c.moved);
+        EXPECT_EQ(logged(ws, QStringLiteral("Found version of software predating 4.0.7")), moved);
         EXPECT_EQ(logged(ws, QStringLiteral("Erasing previous configuration data in registry")),
-                  c.moved);
+                  moved);
         EXPECT_EQ(fileText(ws.gConfigFile),
-                  c.moved ? golden("migrated.ini") : (c.workingFile ? before : QString()));
-        EXPECT_EQ(s.dialogs.shown.size(), c.moved || c.workingFile ? 0U : 1U);
+                  moved ? golden("migrated.ini") : (workingFile ? before : QString()));
+        EXPECT_EQ(s.dialogs.shown.size(), moved || workingFile ? 0U : 1U);
         EXPECT_EQ(SettingsRegistryStore(storeFile, kRegistryBase).keyNames(kRegistryBase).size(),
-                  c.keysLeft);
+                  row[6].toLongLong());
         EXPECT_EQ(logged(ws, QStringLiteral("Settings store at ") + storeFile +
                                  QStringLiteral(" cannot be read--leaving it untouched")),
-                  c.unreadable);
-        if (c.unreadable) {
-            EXPECT_EQ(fileText(storeFile), c.store);
+                  unreadable);
+        if (unreadable) {
+            EXPECT_EQ(fileText(storeFile), storeText);
         }
-        if (!c.moved) {
+        if (!moved) {
             continue;
         }
         // What the working file cannot show: the day tables of a month it was not saved for,

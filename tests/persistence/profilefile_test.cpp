@@ -1,6 +1,7 @@
 #include "persistence/profilefile.h"
 #include "fakes.h"
 #include "persistence/profileapi.h"
+#include "tables.h"
 
 #include <gtest/gtest.h>
 
@@ -8,35 +9,12 @@
 // section) is the golden file persistence/golden/read/profile-rules.dko.
 
 TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest) {
-    struct Case {
-        const char* what;
-        QString before;
-        const char* section;
-        const char* key;
-        QString after;
-    };
-    const QString text = QStringLiteral("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n");
-    const Case cases[] = {
-        {"replaced in place", text, "a", "X", QStringLiteral("[A]\r\nX=new\r\n\r\n[B]\r\ny=2\r\n")},
-        {"added after the section's last key", text, "A", "z",
-         QStringLiteral("[A]\r\nx=1\r\nz=new\r\n\r\n[B]\r\ny=2\r\n")},
-        {"added to an empty section", QStringLiteral("[A]\r\n[B]\r\n"), "A", "z",
-         QStringLiteral("[A]\r\nz=new\r\n[B]\r\n")},
-        {"a new section at the end", text, "Titles", "Grid Font",
-         QStringLiteral("[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n[Titles]\r\nGrid Font=new\r\n")},
-        {"a new file", QString(), "Titles", "Grid Font",
-         QStringLiteral("[Titles]\r\nGrid Font=new\r\n")},
-        {"lines a Windows editor left with LF only", QStringLiteral("[A]\nx=1\n; note\n"), "A", "x",
-         QStringLiteral("[A]\r\nx=new\r\n; note\r\n")},
-    };
-    for (const Case& c : cases) {
-        ProfileFile file(c.before);
-        file.setValue(QString::fromUtf8(c.section), QString::fromUtf8(c.key),
-                      QStringLiteral("new"));
-        EXPECT_EQ(file.text(), c.after) << c.what;
-        EXPECT_EQ(file.value(QString::fromUtf8(c.section), QString::fromUtf8(c.key)),
-                  QStringLiteral("new"))
-            << c.what;
+    for (const QStringList& row : tableRows("persistence/golden/setvalue.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        ProfileFile file(row[1]);
+        file.setValue(row[2], row[3], QStringLiteral("new"));
+        EXPECT_EQ(file.text(), row[4]);
+        EXPECT_EQ(file.value(row[2], row[3]), QStringLiteral("new"));
     }
 }
 
@@ -65,35 +43,13 @@ TEST(ProfileApi, KeyNamesAndValuesPassThroughTheirBuffers) {
 }
 
 TEST(ProfileApi, SplitFields) {
-    struct Case {
-        const char* text;
-        const char* delimiter;
-        int count;
-        QStringList fields;
-    };
-    const Case cases[] = {
-        {"Smith|John|js@example.org",
-         "|",
-         3,
-         {QStringLiteral("Smith"), QStringLiteral("John"), QStringLiteral("js@example.org")}},
-        {"no delimiter", "|", 1, {QStringLiteral("no delimiter")}},
-        {"", "|", 1, {QString()}},
-        {"trailing|", "|", 2, {QStringLiteral("trailing"), QString()}},
-        {"|", "|", 2, {QString(), QString()}},
-        {"a|***empty***|b|c", "|", 2, {QStringLiteral("a"), QStringLiteral("b|c")}},
-        {"a|b", "", 0, {}},
-        {"a--b--c", "--", 3, {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}},
-    };
-    for (const Case& c : cases) {
+    for (const QStringList& row : tableRows("persistence/golden/splitfields.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
         std::vector<QString> fields;
-        EXPECT_EQ(modSplitFields(QString::fromUtf8(c.text), QString::fromUtf8(c.delimiter), fields),
-                  c.count)
-            << c.text;
-        ASSERT_EQ(fields.size(), static_cast<std::size_t>(c.fields.size()) + 1) << c.text;
+        EXPECT_EQ(modSplitFields(row[0], row[1], fields), row[2].toInt());
+        ASSERT_FALSE(fields.empty());
         EXPECT_TRUE(fields[0].isEmpty());
-        for (qsizetype i = 0; i < c.fields.size(); ++i) {
-            EXPECT_EQ(fields[static_cast<std::size_t>(i) + 1], c.fields[i]) << c.text;
-        }
+        EXPECT_EQ(QStringList(fields.begin() + 1, fields.end()), row.mid(3));
     }
 
     QString text = QStringLiteral("one|two");

@@ -11,6 +11,7 @@
 #include "printing/printview.h"
 #include "printing/tearsheet.h"
 #include "recordingprinters.h"
+#include "tables.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -57,25 +58,11 @@ struct Office {
 
 }  // namespace
 
-TEST(PrintCommand, LeaveEmptyPrintsAsBlanksAndComesBack) {
-    Office o;
-    o.ws.schedule(4, 1, 0) = leaveEmptyText();
-    o.ws.gHoliday[1] = 1;
-    o.ws.schedule(1, 1, 0) = blankedCellText();
-    o.print({1, 0, 0});
-    EXPECT_TRUE(o.printers.starting(QStringLiteral("Print \"Leave empty\"")).isEmpty());
-    EXPECT_NE(o.printers.printedAt(blankedCellText()), QPointF(-1, -1));
-    EXPECT_EQ(o.ws.schedule(4, 1, 0), leaveEmptyText());
-    EXPECT_EQ(o.ws.schedule(1, 1, 0), leaveEmptyText());
-    EXPECT_EQ(o.view.asked, texts({"busy: Printing the schedule . . .",
-                                   "status: Printing the full calendar . . .", "normal"}));
-    EXPECT_TRUE(logged(o.ws, QStringLiteral("Printing the schedule for January")));
-    EXPECT_EQ(o.printers.calls.last(), QStringLiteral("Orientation = 1"));
-}
-
 // The window closed during the command's first to sixth yield: no report and no copy begins
 // after it, the "Leave empty" cell is back when the command returns, for the close to save,
-// and the close is then taken. Events run before each report and each copy.
+// and the close is then taken. Events run before each report and each copy. Run to its end,
+// the command prints "Leave empty" as blanks, also a holiday's blanks, which come back as the
+// wish, and leaves the printer upright.
 TEST(PrintCommand, StopsAtTheYieldDuringWhichTheWindowClosed) {
     const char* const lastLines[] = {"schedule for January", "full calendar", "full calendar",
                                      "full calendar",        "office grid",   "office grid"};
@@ -85,6 +72,8 @@ TEST(PrintCommand, StopsAtTheYieldDuringWhichTheWindowClosed) {
         Office o;
         o.ws.gCalendarCopies = QStringLiteral("2");
         o.ws.schedule(4, 1, 0) = leaveEmptyText();
+        o.ws.gHoliday[1] = 1;
+        o.ws.schedule(1, 1, 0) = blankedCellText();
         int yields = 0;
         o.s.ctx.events.run = [&] {
             if (++yields == closeAt) {
@@ -99,6 +88,17 @@ TEST(PrintCommand, StopsAtTheYieldDuringWhichTheWindowClosed) {
         const QString lastLine = fileText(o.ws.gLogFile).section(QStringLiteral("\r\n"), -2, -2);
         EXPECT_TRUE(
             lastLine.endsWith(QLatin1String(closeAt < 7 ? lastLines[closeAt - 1] : "tearsheet")));
+        if (closeAt == 7) {
+            EXPECT_TRUE(o.printers.starting(QStringLiteral("Print \"Leave empty\"")).isEmpty());
+            EXPECT_NE(o.printers.printedAt(blankedCellText()), QPointF(-1, -1));
+            EXPECT_EQ(o.ws.schedule(1, 1, 0), leaveEmptyText());
+            EXPECT_EQ(o.view.asked, texts({"busy: Printing the schedule . . .",
+                                           "status: Printing the full calendar . . .",
+                                           "status: Printing the office grid . . .",
+                                           "status: Printing the tearsheet . . .", "normal"}));
+            EXPECT_TRUE(logged(o.ws, QStringLiteral("Printing the schedule for January")));
+            EXPECT_EQ(o.printers.calls.last(), QStringLiteral("Orientation = 1"));
+        }
     }
 }
 
@@ -107,79 +107,48 @@ TEST(PrintCommand, BoxesAndCopies) {
     const QString capped = QStringLiteral(
         "Desko prints at most 99 copies of a report, so the full calendar is printed 99 times, "
         "not 100000.");
-    const struct {
-        std::array<int, 3> boxes;
-        const char* copies;
-        int documents;
-        const char* repaired;
-        QStringList titles;
-    } cases[] = {
-        {{0, 0, 0}, "5", 0, "5", {}},
-        {{1, 0, 0}, "0", 1, "1", texts({"January 2027 Full calendar"})},
-        {{1, 0, 0}, "abc", 1, "1", texts({"January 2027 Full calendar"})},
-        {{1, 0, 0}, "2.5", 2, "2.5", texts({"January 2027 Full calendar"})},
-        {{1, 0, 0}, "100000", 99, "100000", texts({"January 2027 Full calendar"})},
-        {{0, 1, 0}, "3", 3, "3", texts({"January 2027 Office grid"})},
-        {{1, 1, 1},
-         "1",
-         3,
-         "1",
-         texts(
-             {"January 2027 Full calendar", "January 2027 Office grid", "January 2027 Tearsheet"})},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
+    for (const QStringList& row : tableRows("printing/golden/copies.tsv")) {
+        SCOPED_TRACE(row.join(u' ').toStdString());
         Office o;
-        QString& copies = c.boxes[0] == 1 ? o.ws.gCalendarCopies : o.ws.gGridCopies;
-        copies = QString::fromUtf8(c.copies);
-        o.print(c.boxes);
-        EXPECT_EQ(o.documents(), c.documents);
-        EXPECT_EQ(o.printers.titles, c.titles);
-        EXPECT_EQ(copies, QString::fromUtf8(c.repaired));
+        const std::array<int, 3> boxes = {row[0][0] == u'1', row[0][1] == u'1', row[0][2] == u'1'};
+        QString& copies = boxes[0] == 1 ? o.ws.gCalendarCopies : o.ws.gGridCopies;
+        copies = row[1];
+        o.print(boxes);
+        const int documents = row[2].toInt();
+        EXPECT_EQ(o.documents(), documents);
+        EXPECT_EQ(o.printers.titles, row.value(4).split(u'|', Qt::SkipEmptyParts));
+        EXPECT_EQ(copies, row[3]);
         EXPECT_EQ(o.s.dialogs.texts(),
-                  c.documents == 99 ? o.s.dialogs.wrapped({capped}) : QStringList());
+                  documents == 99 ? o.s.dialogs.wrapped({capped}) : QStringList());
         EXPECT_TRUE(QFile::exists(o.ws.gConfigFile));
-        EXPECT_EQ(o.view.asked.isEmpty(), c.documents == 0);
+        EXPECT_EQ(o.view.asked.isEmpty(), documents == 0);
     }
 }
 
 // Where the names of a shift stand: the busiest weekday decides size, lines and spacing.
 TEST(FullCalendar, TheBusiestWeekdayChoosesSizeAndSpacing) {
-    const struct {
-        int shifts, agents, month;
-        const char* hideTime;
-        int mode;
-        const char* size;
-        const char *first, *second, *lastOfFirst, *firstOfSecond;
-        double step, lastStep;
-    } cases[] = {
-        {2, 4, 1, "0", 1, "FontSize = 9", "s1n0", "s1n1", "s1n3", "s2n0", 8.0 / 72, 10.0 / 72},
-        {3, 3, 1, "0", 2, "FontSize = 6", "s1n0 / s1n1", "s1n2", "s1n2", "s2n0 / s2n1", 8.0 / 72,
-         8.0 / 72},
-        {2, 2, 3, "1", -1, "FontSize = 11", "s1n0", "s1n1", "s1n1", "s2n0", 11.0 / 72, 5.0 / 16},
-        {2, 2, 1, "0", 0, "FontSize = 9", "s1n0", "s1n1", "s1n1", "s2n0", 9.0 / 72, 7.0 / 32},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        Office o(4, c.month);
-        setTable(o.ws, c.shifts, c.agents);
-        for (int shift = 1; shift <= c.shifts; ++shift) {
-            for (int slot = 0; slot < c.agents; ++slot) {
+    for (const QStringList& row : tableRows("printing/golden/fullcalendar.tsv")) {
+        SCOPED_TRACE(row.join(u' ').toStdString());
+        const int shifts = row[0].toInt();
+        const int agents = row[1].toInt();
+        Office o(4, row[2].toInt());
+        setTable(o.ws, shifts, agents);
+        for (int shift = 1; shift <= shifts; ++shift) {
+            for (int slot = 0; slot < agents; ++slot) {
                 o.ws.schedule(1, shift, slot) = QStringLiteral("s%1n%2").arg(shift).arg(slot);
             }
         }
-        o.ws.gCalendarHideTimeText = QString::fromUtf8(c.hideTime);
-        EXPECT_EQ(calendarFontMode(o.ws), c.mode);
+        o.ws.gCalendarHideTimeText = row[3];
+        const int mode = row[4].toInt();
+        EXPECT_EQ(calendarFontMode(o.ws), mode);
         printFullCalendarCopy(o.ws, o.s.ctx, o.printers.printer());
-        EXPECT_TRUE(o.printers.calls.contains(QString::fromUtf8(c.size)));
-        const auto y = [&o](const char* text) {
-            return o.printers.printedAt(QString::fromUtf8(text)).y();
-        };
-        EXPECT_NEAR(y(c.second) - y(c.first), c.step, 1e-3);
-        EXPECT_NEAR(y(c.firstOfSecond) - y(c.lastOfFirst), c.lastStep, 1e-3);
+        EXPECT_TRUE(o.printers.calls.contains(row[5]));
+        const auto y = [&o, &row](int field) { return o.printers.printedAt(row[field]).y(); };
+        EXPECT_NEAR(y(7) - y(6), row[10].toDouble(), 1e-3);
+        EXPECT_NEAR(y(9) - y(8), row[11].toDouble(), 1e-3);
         EXPECT_EQ(
             logged(o.ws, QStringLiteral("Using fontsize 6 for full calendar due to configuration")),
-            c.mode == 2);
+            mode == 2);
     }
 }
 
@@ -206,28 +175,20 @@ TEST(FullCalendar, HolidaysAndNotedDaysInTheCorner) {
 // The names' size follows the agents; a slot that names nobody ends its day's shading, and a
 // holiday stays white.
 TEST(OfficeGrid, SizesAndShading) {
-    const struct {
-        int agents;
-        const char* size;
-        int squares;
-    } cases[] = {{3, "FontSize = 11", 58},
-                 {35, "FontSize = 11", 58},
-                 {36, "FontSize = 9.8333", 58},
-                 {100, "FontSize = 4.5", 58},
-                 {0, "", 0}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.agents);
-        Office o(std::max(c.agents, 1));
+    for (const QStringList& row : tableRows("printing/golden/officegrid.tsv")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const int agents = row[0].toInt();
+        Office o(std::max(agents, 1));
         setTable(o.ws, 1, 2);
         dealInTurn(o.ws);
-        o.ws.gAgentCount = c.agents;
+        o.ws.gAgentCount = agents;
         o.ws.gHoliday[1] = 1;
         o.ws.schedule(2, 1, 0).clear();
         printOfficeGridCopy(o.ws, o.printers.printer());
         const QStringList calls = o.printers.calls;
         const qsizetype shading = calls.indexOf(QStringLiteral("FillColor = 8421504"));
-        EXPECT_EQ(calls.mid(shading).filter(QStringLiteral(", , B")).size(), c.squares);
-        EXPECT_TRUE(*c.size == '\0' || calls.contains(QString::fromUtf8(c.size)));
+        EXPECT_EQ(calls.mid(shading).filter(QStringLiteral(", , B")).size(), row[2].toInt());
+        EXPECT_TRUE(row[1].isEmpty() || calls.contains(row[1]));
         EXPECT_EQ(o.documents(), 1);
     }
 }
@@ -241,19 +202,15 @@ TEST(Tearsheet, PagesOfSlips) {
     const auto perPage = static_cast<int>(calls.mid(0, calls.indexOf(QStringLiteral("EndDoc")))
                                               .count(QStringLiteral("FontBold = True")));
     ASSERT_GT(perPage, 1);
-    const struct {
-        int agents;
-        const char* size;
-        int documents;
-        const char* sizeAfter;
-    } cases[] = {{perPage, "8", 1, "8"}, {perPage + 1, "", 2, "8"}, {3, "300", 3, "300"}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        Office o(c.agents);
-        o.ws.gTearsheetFontsize = QString::fromUtf8(c.size);
+    const std::tuple<int, const char*, int, const char*> cases[] = {
+        {perPage, "8", 1, "8"}, {perPage + 1, "", 2, "8"}, {3, "300", 3, "300"}};
+    for (const auto& [agents, size, documents, sizeAfter] : cases) {
+        SCOPED_TRACE(agents);
+        Office o(agents);
+        o.ws.gTearsheetFontsize = QString::fromUtf8(size);
         printTearsheet(o.ws, o.printers.printer());
-        EXPECT_EQ(o.documents(), c.documents);
-        EXPECT_EQ(o.ws.gTearsheetFontsize, QString::fromUtf8(c.sizeAfter));
+        EXPECT_EQ(o.documents(), documents);
+        EXPECT_EQ(o.ws.gTearsheetFontsize, QString::fromUtf8(sizeAfter));
     }
 }
 

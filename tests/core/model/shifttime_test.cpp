@@ -13,20 +13,3 @@ TEST(ShiftTime, AFailureEmptiesTheOutputs) {
         EXPECT_TRUE(start.isEmpty() && end.isEmpty()) << text;
     }
 }
-
-TEST(ShiftTime, OrdinalWordReducesTheNumberToItsLastDigit) {
-    const struct {
-        int n;
-        int reduced;
-        const char* word;
-    } cases[] = {
-        {0, 0, ""},  {1, 1, "first"},  {6, 6, "sixth"}, {9, 9, "ninth"},
-        {10, 0, ""}, {13, 3, "third"}, {20, 0, ""},     {26, 6, "sixth"},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.n);
-        int n = c.n;
-        EXPECT_EQ(modOrdinalWord(n).toStdString(), c.word);
-        EXPECT_EQ(n, c.reduced);
-    }
-}

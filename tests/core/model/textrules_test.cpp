@@ -1,38 +1,32 @@
 #include "core/model/textrules.h"
-#include "fakes.h"
+#include "core/model/agentlist.h"
+#include "core/model/shifttime.h"
+#include "tables.h"
 
 #include <gtest/gtest.h>
 
-TEST(ProperCase, TidiesPathsAndNames) {
-    struct Case {
-        const char* text;
-        const char* tidied;
-    };
-    const Case cases[] = {
-        {"", ""},
-        {"c:\\program files\\desko", "C:\\Program Files\\Desko"},
-        {"/HOME/ANNA/my_files/[old]-copy", "/Home/Anna/My_Files/[Old]-Copy"},
-        {"WORKSTATION-07", "Workstation-07"},
-        {"o'neil.example.ORG", "O'neil.example.org"},
-        {".[hidden]", "[Hidden]"},
-        {".hidden", ".hidden"},
-        {"\xc3\xbc"
-         "BER \xc3\x84RGER",
-         "\xc3\x9c"
-         "ber \xc3\x84rger"},  // only A to Z change later on
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(modProperCase(QString::fromUtf8(c.text)), QString::fromUtf8(c.tidied)) << c.text;
-    }
-}
+#include <functional>
+#include <map>
 
-TEST(BaseName, FollowsTheLastSeparatorOfEitherKind) {
-    const char* const cases[][2] = {{"/home/ann/May.dko", "May.dko"},
-                                    {"C:\\Office\\June.dko", "June.dko"},
-                                    {"mixed/dir\\July.dko", "July.dko"},
-                                    {"plain.dko", "plain.dko"},
-                                    {"/trailing/", ""}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(modBaseName(QString::fromUtf8(c[0])), QString::fromUtf8(c[1])) << c[0];
+TEST(TextRules, AnswerAsTheTableSays) {
+    const std::map<QString, std::function<QString(const QString&)>> rules = {
+        {QStringLiteral("ProperCase"), modProperCase},
+        {QStringLiteral("ProperCapitals"),
+         [](const QString& name) {
+             return hasProperCapitals(name) ? QStringLiteral("yes") : QStringLiteral("no");
+         }},
+        {QStringLiteral("BaseName"), modBaseName},
+        {QStringLiteral("Article"), agentArticle},
+        {QStringLiteral("OrdinalWord"),
+         [](const QString& number) {
+             int n = number.toInt();
+             const QString word = modOrdinalWord(n);
+             return word + QLatin1Char('|') + QString::number(n);
+         }},
+    };
+    for (const QStringList& row : tableRows("core/model/golden/textrules.tsv")) {
+        SCOPED_TRACE(row.join(QLatin1Char('\t')).toStdString());
+        ASSERT_TRUE(rules.count(row[0]));
+        EXPECT_EQ(rules.at(row[0])(row.value(1)), row.value(2));
     }
 }

@@ -1,4 +1,5 @@
 #include "core/services/randomsequence.h"
+#include "tables.h"
 
 #include <gtest/gtest.h>
 
@@ -28,15 +29,9 @@ TEST(RandomSequence, AnAgentDrawStaysInTheList) {
 }
 
 TEST(RandomSequence, SeedsOnlyFromTheStateRange) {
-    const struct {
-        const char* text;
-        std::optional<std::uint32_t> seed;
-    } cases[] = {{"0", 0U},     {"16777215", 16777215U},
-                 {" 42 ", 42U}, {"16777216", {}},
-                 {"-1", {}},    {"12x", {}},
-                 {"", {}}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(parseSeed(QString::fromUtf8(c.text)), c.seed) << c.text;
+    for (const QStringList& row : tableRows("core/services/golden/seeds.tsv")) {
+        const std::optional<std::uint32_t> seed = parseSeed(row[0]);
+        EXPECT_EQ(seed ? QString::number(*seed) : QString(), row.value(1)) << row[0].toStdString();
     }
 }
 

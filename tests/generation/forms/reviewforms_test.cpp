@@ -48,68 +48,76 @@ struct Review : MainWindow {
 // The review takes the main window's place with what the engine offers. Shuffled's
 // Reschedule deals the month again. A serial engine's list opens on the agent after the
 // cursor; choosing item n, also the one shown, starts the engine again from agent n + 1 over
-// any change by hand, unless the item is the one last rebuilt for.
+// any change by hand, unless the item is the one last rebuilt for. OK and the close box both
+// unload the review and give the main window back its normal face.
 TEST(ReviewForm, TheReviewOffersWhatTheEngineOffers) {
-    const struct {
-        int engine;
-        int baseAgent;
-        int agentItem;  // -1: no list
-        bool reschedule;
-        bool okCentred;
-    } cases[] = {
-        {0, 0, -1, false, true},
-        {1, 0, -1, true, false},
-        {2, 3, 0, false, false},  // a run from the last agent began with the first
-        {3, 1, 1, false, false},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.engine);
+    // The engine; the base agent; the list's item shown, -1 for no list; Reschedule; OK centred.
+    // A run from the last agent began with the first.
+    const std::tuple<int, int, int, bool, bool> cases[] = {{0, 0, -1, false, true},
+                                                           {1, 0, -1, true, false},
+                                                           {2, 3, 0, false, false},
+                                                           {3, 1, 1, false, false}};
+    for (const auto& [engine, baseAgent, agentItem, reschedule, okCentred] : cases) {
+        SCOPED_TRACE(engine);
         Review r;
         r.ws.schedule(4, 1, 0) = QStringLiteral("Leave empty");
         const std::vector<QString> before = r.ws.gSchedule;
-        r.ws.gBaseAgent = c.baseAgent;
-        frmWholeCalendar* review = r.show(c.engine);
+        r.ws.gBaseAgent = baseAgent;
+        frmWholeCalendar* review = r.show(engine);
 
         EXPECT_FALSE(r.main->isVisible());
         EXPECT_EQ(r.window->windowTitle(), r.main->windowTitle());
         EXPECT_EQ(r.ws.gScheduleGenerated, 1);
         EXPECT_EQ(r.ws.gSchedule, before);
         EXPECT_TRUE(logged(r.ws, QStringLiteral("Viewing generated schedule")));
-        EXPECT_EQ(review->cmdReschedule->isVisible(), c.reschedule);
-        EXPECT_EQ(review->cmbAgents->isVisible(), c.agentItem >= 0);
-        EXPECT_EQ(review->cmbAgents->currentIndex(), c.agentItem);
+        EXPECT_EQ(review->cmdReschedule->isVisible(), reschedule);
+        EXPECT_EQ(review->cmbAgents->isVisible(), agentItem >= 0);
+        EXPECT_EQ(review->cmbAgents->currentIndex(), agentItem);
         EXPECT_EQ(review->labInstruction->text(),
-                  c.agentItem >= 0 ? QStringLiteral("Click on any day to view its contents.  "
-                                                    "Use the dropdown to change the initial "
-                                                    "agent.")
-                                   : QStringLiteral("Click a day to view or edit its contents."));
+                  agentItem >= 0 ? QStringLiteral("Click on any day to view its contents.  "
+                                                  "Use the dropdown to change the initial "
+                                                  "agent.")
+                                 : QStringLiteral("Click a day to view or edit its contents."));
         const int offset = review->cmdOK->mapTo(review, review->cmdOK->rect().center()).x() -
                            r.cell(6)->mapTo(review, r.cell(6)->rect().center()).x();
-        EXPECT_EQ(std::abs(offset) <= 1, c.okCentred) << offset;
+        EXPECT_EQ(std::abs(offset) <= 1, okCentred) << offset;
 
-        if (c.reschedule) {
+        if (reschedule) {
             QTest::mouseClick(review->cmdReschedule, Qt::LeftButton);
             EXPECT_NE(r.ws.schedule(4, 1, 0), QStringLiteral("Leave empty"));
             EXPECT_EQ(r.cell(3)->text(), r.ws.schedule(3, 1, 0) + QLatin1Char('\n'));
-        } else if (c.agentItem >= 0) {
+        } else if (agentItem >= 0) {
             // The item shown is chosen again: it was not the one last rebuilt for, 0.
             r.ws.gCalendarAgentIndex = 0;
-            emit review->cmbAgents->activated(c.agentItem);
-            EXPECT_EQ(r.ws.gCalendarAgentIndex, c.agentItem);
-            EXPECT_EQ(agentIn(r.ws, 3, 1, 0), c.agentItem + 1);  // Sunday the 3rd goes first
+            emit review->cmbAgents->activated(agentItem);
+            EXPECT_EQ(r.ws.gCalendarAgentIndex, agentItem);
+            EXPECT_EQ(agentIn(r.ws, 3, 1, 0), agentItem + 1);  // Sunday the 3rd goes first
             EXPECT_EQ(r.cell(3)->text(), r.ws.schedule(3, 1, 0) + QLatin1Char('\n'));
-            emit review->cmbAgents->activated(c.agentItem);  // rebuilt for: nothing
+            emit review->cmbAgents->activated(agentItem);  // rebuilt for: nothing
             r.ws.schedule(3, 1, 0) = QStringLiteral("Leave empty");
-            emit review->cmbAgents->activated(c.agentItem);
+            emit review->cmbAgents->activated(agentItem);
             EXPECT_EQ(r.ws.schedule(3, 1, 0), QStringLiteral("Leave empty"));
             EXPECT_FALSE(r.ws.gDirty.has_value());
         }
+        if (engine % 2 == 0) {
+            QTest::mouseClick(review->cmdOK, Qt::LeftButton);
+        } else {
+            r.window->close();
+        }
+        EXPECT_FALSE(review->isLoaded());
+        EXPECT_TRUE(r.main->isVisible());
+        EXPECT_TRUE(r.main->cmdPrint->isEnabled());
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        EXPECT_TRUE(logged(r.ws, QStringLiteral("Closing generated schedule")));
     }
 }
 
-// A press on a holiday's text or number only names it. A cell whose text does not fit shows
-// that it is cut and has the whole text as its tooltip.
-TEST(ReviewForm, HolidaysAreNamedAndCellsThatDoNotFitSaySo) {
+// A press on a holiday's text or number only names it. Days opened one after another: each
+// shows a frame per shift and a list per slot on the cell's key, and nothing of the day
+// before. OK stores what the lists show; the close box stores nothing; a key no list offers
+// opens unselected. A cell whose text does not fit shows that it is cut and has the whole
+// text as its tooltip. Opened again, in another month, the review shows that month alone.
+TEST(ReviewForm, TheDayEditorShowsTheDayAndOKStoresIt) {
     Review r;
     r.ws.gHoliday[1] = 1;
     r.ws.gHolidayName[1] = QStringLiteral("New Year's Day");
@@ -123,38 +131,25 @@ TEST(ReviewForm, HolidaysAreNamedAndCellsThatDoNotFitSaySo) {
               texts({"January 1 is New Year's Day.", "January 1 is New Year's Day."}));
     EXPECT_EQ(r.s.dialogs.shown[0].icon, MsgIcon::Information);
     EXPECT_FALSE(r.editor()->isVisible());
-    EXPECT_TRUE(review->isVisible());
-
     EXPECT_FALSE(r.cell(4)->isCut());
     EXPECT_TRUE(r.cell(4)->toolTip().isEmpty());
     EXPECT_TRUE(r.cell(11)->isCut());
     EXPECT_EQ(r.cell(11)->toolTip(), r.cell(11)->text());
     EXPECT_TRUE(r.cell(11)->text().endsWith(r.ws.gNotedText[11]));
-}
-
-// Days opened one after another: each shows a frame per shift and a list per slot on the
-// cell's key, and nothing of the day before. OK stores what the lists show; the close box
-// stores nothing; a key no list offers opens unselected.
-TEST(ReviewForm, TheDayEditorShowsTheDayAndOKStoresIt) {
-    Review r;
-    frmWholeCalendar* review = r.show(0);
-    const struct {
-        int day;
-        int shifts;
-        int lists;  // in each frame
-    } cases[] = {{4, 1, 3}, {5, 2, 1}, {2, 0, 0}, {3, 1, 1}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.day);
-        r.clickDay(c.day);
+    // The day; its shifts; the lists in each frame.
+    const std::tuple<int, int, int> days[] = {{4, 1, 3}, {5, 2, 1}, {2, 0, 0}, {3, 1, 1}};
+    for (const auto& [day, shifts, lists] : days) {
+        SCOPED_TRACE(day);
+        r.clickDay(day);
         EXPECT_TRUE(r.editor()->isVisible());
         EXPECT_FALSE(review->isVisible());
         for (int n = 1; n <= 6; ++n) {
-            EXPECT_EQ(r.editor()->fraShift[n - 1]->isVisible(), n <= c.shifts);
+            EXPECT_EQ(r.editor()->fraShift[n - 1]->isVisible(), n <= shifts);
             for (int k = 0; k < 4; ++k) {
-                const bool shown = n <= c.shifts && k < c.lists;
+                const bool shown = n <= shifts && k < lists;
                 EXPECT_EQ(r.list(n, k)->isVisible(), shown) << n << k;
                 if (shown) {
-                    EXPECT_EQ(r.list(n, k)->currentText(), r.ws.schedule(c.day, n, k));
+                    EXPECT_EQ(r.list(n, k)->currentText(), r.ws.schedule(day, n, k));
                 }
             }
         }
@@ -180,29 +175,9 @@ TEST(ReviewForm, TheDayEditorShowsTheDayAndOKStoresIt) {
     EXPECT_EQ(r.ws.gSchedule, before);
     EXPECT_TRUE(review->isVisible());
     EXPECT_FALSE(r.editor()->isVisible());
-}
 
-// OK and the close box both unload the review and its editor and give the main window back
-// its normal face. Opened again, in another month, the review shows that month alone.
-TEST(ReviewForm, LeavingTheReviewGivesTheMainWindowBack) {
-    Review r;
-    for (const bool byOK : {true, false}) {
-        SCOPED_TRACE(byOK);
-        frmWholeCalendar* review = r.show(0);
-        r.clickDay(4);
-        QTest::mouseClick(r.editor()->cmdOK, Qt::LeftButton);
-        if (byOK) {
-            QTest::mouseClick(review->cmdOK, Qt::LeftButton);
-        } else {
-            r.window->close();
-        }
-        EXPECT_FALSE(review->isLoaded());
-        EXPECT_FALSE(r.editor()->isLoaded());
-        EXPECT_TRUE(r.main->isVisible());
-        EXPECT_TRUE(r.main->cmdPrint->isEnabled());
-        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-        EXPECT_TRUE(logged(r.ws, QStringLiteral("Closing generated schedule")));
-    }
+    r.window->close();
+    EXPECT_FALSE(r.editor()->isLoaded());
     r.ws.gCurrentMonth = 2;
     modSetupMonth(r.ws);  // February 2027: 28 days from a Monday
     r.main->showReview();

@@ -1,9 +1,11 @@
 #include "core/services/printers.h"
+#include "core/services/textfile.h"
 #include "fakes.h"
 #include "offices.h"
 #include "printing/forms/machineprinters.h"
 #include "printing/fullcalendar.h"
 #include "printing/printersetup.h"
+#include "tables.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -19,33 +21,10 @@
 
 namespace {
 
-// A printer that takes PDF and gives it out as it came: a file device writes nothing for a
-// queue without a driver.
-const char* const kPdfPrinter =
-    "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n"
-    "*LanguageVersion: English\n*LanguageEncoding: ISOLatin1\n*PCFileName: \"DESKO.PPD\"\n"
-    "*Manufacturer: \"Desko\"\n*Product: \"(Desko)\"\n*ModelName: \"Desko PDF file\"\n"
-    "*ShortNickName: \"Desko PDF file\"\n*NickName: \"Desko PDF file\"\n"
-    "*PSVersion: \"(3010.000) 0\"\n*LanguageLevel: \"3\"\n*ColorDevice: True\n"
-    "*DefaultColorSpace: RGB\n*cupsFilter2: \"application/vnd.cups-pdf application/pdf 0 -\"\n"
-    "*OpenUI *PageSize/Page Size: PickOne\n*DefaultPageSize: Letter\n"
-    "*PageSize Letter/US Letter: \"<</PageSize[612 792]>>setpagedevice\"\n"
-    "*CloseUI: *PageSize\n*DefaultPageRegion: Letter\n*DefaultImageableArea: Letter\n"
-    "*ImageableArea Letter: \"0 0 612 792\"\n*DefaultPaperDimension: Letter\n"
-    "*PaperDimension Letter: \"612 792\"\n";
-
-// The scheduler's settings, with R/ standing for the print system's folder.
-const char* const kFiles =
-    "FileDevice Yes\nServerRoot R/conf\nRequestRoot R/spool\nTempDir R/spool/tmp\n"
-    "CacheDir R/cache\nStateDir R/state\nAccessLog R/log/access_log\n"
-    "ErrorLog R/log/error_log\nPageLog R/log/page_log\nServerBin /usr/lib/cups\n"
-    "DataDir /usr/share/cups\nGroup lp\nSystemGroup root\n";
-const char* const kConf =
-    "Listen R/cups.sock\nBrowsing Off\nWebInterface No\nDefaultAuthType None\n"
-    "<Location />\nOrder allow,deny\nAllow all\n</Location>\n";
-
 // A print system of the test's own: a scheduler that listens on a socket in a temporary
-// folder, keeps everything there, and has one queue, "DeskoTest", whose device is a file.
+// folder, keeps everything there, and has one queue, "DeskoTest", whose device is a file. The
+// queue's printer takes PDF and gives it out as it came: a file device writes nothing for a
+// queue without a driver.
 struct PrintSystem {
     explicit PrintSystem(const QString& cupsd) {
         for (const char* folder : {"spool/tmp", "cache", "state", "log", "conf", "out"}) {
@@ -55,9 +34,9 @@ struct PrintSystem {
         for (const QString& open : {dir.path(), dir.filePath(QStringLiteral("out"))}) {
             QFile::setPermissions(open, QFileDevice::Permission(0x7777));
         }
-        const QString conf = write("conf/cupsd.conf", kConf);
-        const QString files = write("conf/cups-files.conf", kFiles);
-        const QString ppd = write("conf/desko.ppd", kPdfPrinter);
+        const QString conf = write("cupsd.conf");
+        const QString files = write("cups-files.conf");
+        const QString ppd = write("desko.ppd");
         socket = dir.filePath(QStringLiteral("cups.sock"));
         output = dir.filePath(QStringLiteral("out/job.pdf"));
         // Without -f the scheduler answers only once it listens.
@@ -80,14 +59,11 @@ struct PrintSystem {
             QThread::msleep(10);
         }
     }
-    QString write(const char* name, const char* text) const {
-        const QString path = dir.filePath(QString::fromUtf8(name));
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(QString::fromLatin1(text)
-                           .replace(QStringLiteral("R/"), dir.path() + QLatin1Char('/'))
-                           .toUtf8());
-        }
+    // The print system's file of that name, R/ standing for its folder.
+    QString write(const char* name) const {
+        const QString path = dir.filePath(QStringLiteral("conf/") + QString::fromUtf8(name));
+        writeTextFile(path, testFileText((std::string("printing/golden/cups/") + name).c_str())
+                                .replace(QStringLiteral("R/"), dir.path() + QLatin1Char('/')));
         return path;
     }
     // Whether a job is still waiting or printing.
