@@ -14,6 +14,7 @@ QByteArray quotedPrintable(const QString& text) {
     QString lines = text;
     lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
         .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+    static const char kHex[] = "0123456789ABCDEF";
     QByteArray out;
     for (const QByteArray& line : lines.toUtf8().split('\n')) {
         int width = 0;
@@ -22,15 +23,20 @@ QByteArray quotedPrintable(const QString& text) {
             const bool last = i + 1 == line.size();
             const bool literal = (byte >= 33 && byte <= 126 && byte != '=') ||
                                  ((byte == ' ' || byte == '\t') && !last);
-            const QByteArray piece =
-                literal ? QByteArray(1, static_cast<char>(byte))
-                        : '=' + QByteArray::number(byte, 16).rightJustified(2, '0').toUpper();
-            if (width + piece.size() > 75) {
-                out += '=' + kCrLf;
+            const int piece = literal ? 1 : 3;
+            if (width + piece > 75) {
+                out += '=';
+                out += kCrLf;
                 width = 0;
             }
-            out += piece;
-            width += static_cast<int>(piece.size());
+            if (literal) {
+                out += static_cast<char>(byte);
+            } else {
+                out += '=';
+                out += kHex[byte >> 4];
+                out += kHex[byte & 0xF];
+            }
+            width += piece;
         }
         out += kCrLf;
     }

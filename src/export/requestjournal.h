@@ -12,6 +12,8 @@ struct SentAppointment {
     QDate date;
     int start = 0;  // minutes after midnight
     int end = 0;
+
+    bool operator==(const SentAppointment&) const = default;
 };
 
 // What the meeting requests of a month have sent: the version number of the last export and
@@ -19,6 +21,8 @@ struct SentAppointment {
 struct RequestJournal {
     int sequence = 0;
     std::vector<SentAppointment> sent;
+
+    bool operator==(const RequestJournal&) const = default;
 };
 
 // The journal file beside the working file: one line per appointment and one for the version,

@@ -7,16 +7,22 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 
 const QString kSection = QStringLiteral("Window");
 
-// A whole number the file gives for the key; nothing for a missing or garbled one.
+// No window reaches further than Qt's largest window size from the desktop's origin; the
+// edges of a place within it are whole numbers.
+constexpr int kFarthest = 16777215;
+
+// A whole number the file gives for the key; nothing for a missing or garbled one, or one
+// that no screen has.
 std::optional<int> number(const ProfileFile& file, const QString& key) {
     bool ok = false;
     const int value = file.value(kSection, key).toInt(&ok);
-    return ok ? std::optional<int>(value) : std::nullopt;
+    return ok && std::abs(value) <= kFarthest ? std::optional<int>(value) : std::nullopt;
 }
 
 // The rectangle moved and shrunk as little as it takes to lie inside the area.

@@ -28,7 +28,8 @@ struct WindowPlace {
 };
 
 // The place kept in the file; nothing when the file is missing or does not give a whole
-// place of a size above zero.
+// place of a size above zero, or gives a number further than any screen reaches (beyond
+// 16777215 either way).
 std::optional<WindowPlace> readWindowPlace(const QString& path);
 
 // Keeps the place in the file, making its folder if it is missing; false when the file

@@ -8,10 +8,13 @@
 #include "core/model/daycaption.h"
 #include "core/model/session.h"
 #include "core/services/mailaccounts.h"
+#include "export/calendarfiles.h"
 #include "export/exportcommand.h"
 #include "export/exportview.h"
 #include "export/mailsession.h"
+#include "generation/balance.h"
 #include "generation/generate.h"
+#include "generation/positionwalk.h"
 #include "generation/review.h"
 #include "printing/printcommand.h"
 #include "printing/printview.h"
@@ -112,7 +115,25 @@ void printEverything(HeadlessRun& run) {
         {vacationLines(ws), restrictionLines(ws), holidayLines(ws), notedDayLines(ws)});
 }
 
+// The calendar files: one for each agent and the office's, named for a file, the office's
+// with every agent's events.
+void checkCalendarFiles(const Workspace& ws, const QDateTime& now) {
+    const std::vector<CalendarFile> files = calendarFiles(ws, now);
+    require(files.size() == static_cast<std::size_t>(ws.gAgentCount) + 1,
+            "a calendar file for each agent and the office's");
+    const QByteArray event = "\r\nBEGIN:VEVENT\r\n";
+    qsizetype agentEvents = 0;
+    for (const CalendarFile& file : files) {
+        require(file.name.endsWith(QStringLiteral(".ics")) && !file.name.contains(QLatin1Char('/')),
+                "a calendar file's name is a file's");
+        agentEvents += &file != &files.back() ? file.text.count(event) : 0;
+    }
+    require(files.back().text.count(event) == agentEvents,
+            "the office's calendar holds every agent's events");
+}
+
 void exportEverything(HeadlessRun& run, int& sent) {
+    checkCalendarFiles(run.ws, run.clock.now());
     run.ws.chkPrint = {0, 0, 0, 1, 1, 1};
     // The Calendar Creator file is made in memory; its folder is missing, so it stays there.
     run.dialogs.fileAnswer = scratchPath(QStringLiteral("missing/road.csv"));
@@ -123,10 +144,33 @@ void exportEverything(HeadlessRun& run, int& sent) {
     cmdExport(run.ws, run.ctx, view, session);
 }
 
-// What the review, the day editor and the day pickers read of the month: each day's cell,
-// each day's lists, and the picks and proposed names of the three pickers.
+// The balance counts each position of a working day once: for the agents whose key it holds,
+// as open, or for a text that is no agent's key.
+void checkBalance(const Workspace& ws) {
+    const MonthBalance balance = monthBalance(ws);
+    int counted = balance.openPositions;
+    for (const auto& [text, positions] : balance.others) {
+        counted += positions;
+    }
+    for (const AgentBalance& agent : balance.agents) {
+        counted += agent.shifts;
+    }
+    int positions = 0;
+    for (int day = 1; day <= ws.currentMonthDays(); ++day) {
+        if (ws.gHoliday[day] != 1) {
+            forEachPosition(ws, day, ShiftOrder::Upward, [&](int, int) { ++positions; });
+        }
+    }
+    const QSet<QString> keys(ws.gAgentKey.begin() + 1, ws.gAgentKey.end());
+    require(keys.size() < ws.gAgentCount || counted == positions,
+            "the balance counts each position once");
+}
+
+// What the review with its balance, the day editor and the day pickers read of the month:
+// each day's cell, each day's lists, and the picks and proposed names of the three pickers.
 void lookOver(HeadlessRun& run) {
     Workspace& ws = run.ws;
+    checkBalance(ws);
     for (int day = 1; day <= ws.currentMonthDays(); ++day) {
         dayCaption(ws, day);
         // The day editor opened on the day and closed with OK.

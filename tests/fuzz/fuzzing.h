@@ -67,11 +67,11 @@ struct HeadlessRun {
 };
 
 // The whole road of a schedule file as a user takes it: open as File Open does, look the
-// month over in the review, the day editor and the day pickers, print every report and
-// export through every channel; then generate with each engine and look the month over,
-// and print and export the last schedule. The reports go to a printer that measures by
-// rule, the messages and the Calendar Creator file into memory. What the road did, for
-// callers that check it.
+// month over in the review with its balance, the day editor and the day pickers, print every
+// report, export through every channel and make the calendar files; then generate with each
+// engine and look the month over, and print and export the last schedule. The reports go to
+// a printer that measures by rule, the messages and the files into memory. What the road
+// did, for callers that check it.
 struct RoadResult {
     bool opened = false;
     int year = 0;  // the month the file opened in

@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 struct Entry {
@@ -11,12 +13,19 @@ struct Entry {
     std::optional<QString> password;
 };
 
+// The blanks that part words, those of the C locale: a no-break space or another blank of
+// Unicode is part of a word, as in the bytes msmtp reads.
+bool isBlank(QChar c) {
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\v') ||
+           c == QLatin1Char('\f');
+}
+
 // The words of a line up to a comment; a quote runs to the same quote and may hold blanks.
 QStringList wordsOf(const QString& line) {
     QStringList words;
     qsizetype at = 0;
     while (at < line.size()) {
-        while (at < line.size() && line[at].isSpace()) {
+        while (at < line.size() && isBlank(line[at])) {
             ++at;
         }
         if (at == line.size() || line[at] == QLatin1Char('#')) {
@@ -24,7 +33,7 @@ QStringList wordsOf(const QString& line) {
         }
         QString word;
         QChar quote;
-        for (; at < line.size() && (!quote.isNull() || !line[at].isSpace()); ++at) {
+        for (; at < line.size() && (!quote.isNull() || !isBlank(line[at])); ++at) {
             if (!quote.isNull() && line[at] == quote) {
                 quote = QChar();
             } else if (quote.isNull() &&
@@ -55,9 +64,8 @@ std::optional<QString> netrcPassword(const QString& text, const QString& machine
     // The keyword whose value the next word is; it carries over a line's end.
     QString expecting;
     bool inMacro = false;
-    for (const QString& raw : text.split(lineBreak)) {
-        const QString line = raw.trimmed();
-        if (line.isEmpty()) {
+    for (const QString& line : text.split(lineBreak)) {
+        if (std::all_of(line.begin(), line.end(), isBlank)) {
             inMacro = false;
             continue;
         }
