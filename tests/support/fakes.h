@@ -34,6 +34,16 @@ QString exampleSchedule(const QString& folder, const char* version = "4.0.10");
 // Whether the log holds the line, after its time stamp.
 bool logged(const Workspace& ws, const QString& line);
 
+// The log's lines, each after its time stamp, as a transcript tells them: "log ...".
+QStringList logLines(const Workspace& ws);
+
+// Compares what a case showed and wrote, line by line, with the case "== name" of a golden
+// file under tests/: the lines after that heading up to the next one. The home folder, as
+// given and as the log writes it, reads HOME. With DESKO_TRANSCRIPTS set, each transcript made
+// is also appended to the file it names, to write a new case's text from.
+void expectTranscript(const QStringList& lines, const char* file, const QString& name,
+                      const QString& home = QString());
+
 // A clock that shows whatever the test sets.
 class FixedClock final : public Clock {
 public:
@@ -47,6 +57,9 @@ public:
 // shown is kept. Each character is 7 pixels wide, so a test can tell where a message breaks.
 class ScriptedDialogs final : public Dialogs {
 public:
+    // Every box, file dialog, input box and chooser in turn, with the answer given, as lines
+    // of a transcript; a test may add lines of its own between them.
+    QStringList said;
     struct Shown {
         QString text;
         MsgIcon icon;

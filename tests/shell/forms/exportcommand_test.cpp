@@ -39,55 +39,6 @@ TEST(ExportCommand, UnticksWhatCannotGoAndWritesTheFile) {
     EXPECT_TRUE(main.fraDate->isVisible() && !main.fraStatus->isVisible() && !w.busy());
 }
 
-// The resolve button looks the names, or the address typed, up in the address book's vCards
-// as programs write them (folded lines, groups, escapes, LF or CR LF); of several addresses
-// the user chooses one, and a Cancel there changes nothing. A resolved address is underlined.
-TEST(ExportCommand, ResolveButtonFindsTheAddressInTheAddressBook) {
-    struct Case {
-        const char* first;
-        const char* last;
-        const char* typed;
-        std::optional<int> choice;
-        const char* shown;
-        bool chooser;
-    };
-    const Case cases[] = {
-        {"Wei", "Chen", "", {}, "wei.chen@example.org", false},
-        {"", " CHEN ", "", {}, "wei.chen@example.org", false},
-        {"X", "Y", "ann.k@example.org", {}, "ann.k@example.org", false},
-        {"Anna", "Fischer", "", 1, "anna@home.example", true},
-        {"Anna", "Fischer", "typed", {}, "typed", false},
-        {"Anna", "Fischer", "", std::nullopt, "", true},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.first);
-        MainWindow w;
-        QDir(w.home.path()).mkdir(QStringLiteral("book"));
-        writeTextFile(w.home.filePath(QStringLiteral("book/team.vcf")),
-                      QStringLiteral("BEGIN:VCARD\r\nFN:Wei Chen\r\nN:Chen;Wei;;;\r\nitem1.EMAIL;"
-                                     "TYPE=work:wei.chen@exam\r\n ple.org\r\nEND:VCARD\r\n"
-                                     "BEGIN:VCARD\nFN:Anna Fischer\nN:Fischer;Anna\nEMAIL:anna@"
-                                     "work.example\nEMAIL:anna@home.example\nEND:VCARD\n"));
-        writeTextFile(
-            w.home.filePath(QStringLiteral("book/Other.VCF")),
-            QStringLiteral("BEGIN:VCARD\nFN:K\\, Ann\nEMAIL:ann.k@example.org\nEND:VCARD\n"));
-        w.s.ctx.launch.addressBook = w.home.filePath(QStringLiteral("book"));
-        w.s.dialogs.choiceAnswers = {c.choice};
-        frmMain& main = w.open();
-        QTest::mouseClick(w.control<QPushButton>("cmdAdd"), Qt::LeftButton);
-        QTest::keyClicks(main.txtFirstName, QString::fromUtf8(c.first));
-        QTest::keyClicks(main.txtLastName, QString::fromUtf8(c.last));
-        QTest::keyClicks(main.txtEmail, QString::fromUtf8(c.typed));
-
-        QTest::mouseClick(w.control<QPushButton>("cmdResolveName"), Qt::LeftButton);
-
-        EXPECT_EQ(w.s.dialogs.choicesShown.size(), c.chooser ? 1U : 0U);
-        EXPECT_EQ(main.txtEmail->text(), QString::fromUtf8(c.shown));
-        // Only an address the book gave is underlined.
-        EXPECT_EQ(main.txtEmail->font().underline(), main.txtEmail->text().contains(u'@'));
-    }
-}
-
 // The window's close box, pressed while the meeting requests go to a server that answers
 // each after a while and refuses the first agent's, stops the export at once: nothing is
 // sent after the close, the results question never comes, the "Leave empty" cell is back
