@@ -9,6 +9,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -63,11 +64,30 @@ void FaceWindow::fitFaces() {
         least = least.boundedTo(room);
         wanted = wanted.boundedTo(room);
     }
+    if (isVisible()) {
+        growTo(least);
+    }
     setMinimumSize(least);
     if (!isVisible() && !sized_) {
         resize(wanted);
         sized_ = true;
     }
+}
+
+void FaceWindow::growTo(const QSize& size) {
+    const QScreen* display = screen();
+    if (isMaximized() || isFullScreen() || display == nullptr) {
+        return;
+    }
+    const QRect room = display->availableGeometry() - frameMargins();
+    const QSize grown = this->size().expandedTo(size.boundedTo(room.size()));
+    if (grown == this->size()) {
+        return;
+    }
+    QRect place(geometry().topLeft(), grown);
+    place.translate(std::min(0, room.right() - place.right()),
+                    std::min(0, room.bottom() - place.bottom()));
+    setGeometry(place);
 }
 
 QMargins FaceWindow::frameMargins() const {

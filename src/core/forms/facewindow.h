@@ -30,6 +30,10 @@ public:
     // takes the size its faces ask for. A face that comes to need more room later, by a longer
     // caption, fits the window to itself again.
     void fitFaces();
+    // Grows the window, unless it is maximised, toward the size for its faces, as far as the
+    // available area of its screen allows; it moves back as far as it grew over the area's
+    // edge. It never shrinks the window.
+    void growTo(const QSize& size);
     // What the desktop's frame adds around the window: as it stands once the window is on
     // the screen, else room for a common frame and title bar.
     QMargins frameMargins() const;

@@ -138,7 +138,7 @@ BalancePanel::BalancePanel(QWidget* parent) : QWidget(parent) {
     fitColumns();
 }
 
-// The table would be as wide as its columns, and needs room at least for the agent, the
+// The table is at most as wide as its columns, and needs room at least for the agent, the
 // shifts and the hours, the others scrolling. The agents' column is at least as wide as a
 // common key with its sign, so that the panel knows its width before it shows a month.
 void BalancePanel::fitColumns() {
@@ -150,17 +150,17 @@ void BalancePanel::fitColumns() {
     }
     const int edges =
         tabBalance->verticalScrollBar()->sizeHint().width() + 2 * tabBalance->frameWidth();
-    fullWidth_ = tabBalance->horizontalHeader()->length() + edges;
     int keyFigures = edges;
     for (int c = 0; c < kKeyFigureColumns; ++c) {
         keyFigures += tabBalance->columnWidth(c);
     }
     tabBalance->setMinimumWidth(keyFigures);
+    setMaximumWidth(tabBalance->horizontalHeader()->length() + edges);
     updateGeometry();
 }
 
 QSize BalancePanel::sizeHint() const {
-    return {fullWidth_, QWidget::sizeHint().height()};
+    return {minimumSizeHint().width(), QWidget::sizeHint().height()};
 }
 
 void BalancePanel::showBalance(const Workspace& ws) {

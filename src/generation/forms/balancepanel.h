@@ -31,7 +31,8 @@ public:
     int chosenAgent() const { return chosen_; }
     void choose(int agent);
 
-    // As wide as the whole table; the least is the room for its first columns.
+    // It asks for the room of the table's first columns, the others scrolling, and grows up
+    // to the whole table.
     QSize sizeHint() const override;
 
     QTableView* tabBalance;
@@ -58,5 +59,4 @@ private:
     QStandardItemModel* model_;
     QSortFilterProxyModel* sorted_;
     int chosen_ = 0;
-    int fullWidth_ = 0;
 };

@@ -47,6 +47,7 @@ const struct {
     {"agent editor", [](Example& w) { w.main->cmdAdd->click(); }},
     {"review, SmartRandom", [](Example& w) { w.review(0); }},
     {"review, serial", [](Example& w) { w.review(3); }},
+    {"review, balance asked for", [](Example& w) { w.review(3)->cmdBalance->click(); }},
     {"day editor", [](Example& w) { w.review(3)->labDay_MouseDown(8); }},
     {"weekday editor",
      [](Example& w) {
