@@ -121,9 +121,6 @@ void frmWholeCalendar::addBalancePanel() {
     balancePanel = new BalancePanel(this);
     balancePanel->hide();
     grid_->addWidget(balancePanel, kDayNameRow, kColumns, kButtonRow - kDayNameRow, 1);
-    // Room beyond what the calendar and the balance ask for goes to both alike, until the
-    // balance shows its whole table.
-    grid_->setColumnStretch(kColumns, kColumns);
     cmdBalance = makeButton(this, "cmdBalance", QStringLiteral("&Balance"));
     cmdBalance->setCheckable(true);
     grid_->addWidget(cmdBalance, kButtonRow, 0, Qt::AlignLeft);
@@ -156,6 +153,9 @@ void frmWholeCalendar::fitBalancePanel() {
         balancePanel->choose(0);
     }
     balancePanel->setVisible(shown);
+    // Room beyond what the calendar and a shown balance ask for goes to both alike, until the
+    // balance shows its whole table; a hidden balance leaves all of it to the calendar.
+    grid_->setColumnStretch(kColumns, shown ? kColumns : 0);
     cmdBalance->setChecked(shown);
 }
 

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QLayout>
+
 #include <algorithm>
 
 namespace {
@@ -62,17 +64,22 @@ const struct {
 };
 
 // Every control that the face lays out, on the face or in a frame, lies inside what holds
-// it with the room its text needs, and overlaps none of the controls beside it.
+// it with the room its text needs, and overlaps none of the controls beside it; together
+// they reach across the whole face, leaving no room unused at its right.
 void expectLaidOut(const Form* face) {
     QList<QWidget*> shown;
+    QRect spread;
     for (QWidget* control : face->findChildren<QWidget*>()) {
         const QWidget* holder = control->parentWidget();
         if (control->isVisible() && control->metaObject() != &QWidget::staticMetaObject &&
             (holder == face || holder->inherits("QGroupBox") ||
              holder->metaObject() == &QWidget::staticMetaObject)) {
             shown.append(control);
+            spread |=
+                control->geometry().translated(control->parentWidget()->mapTo(face, QPoint()));
         }
     }
+    EXPECT_GE(spread.right(), face->layout()->contentsRect().right()) << "room left unused";
     for (const QWidget* control : shown) {
         const std::string name = control->objectName().toStdString();
         EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry())) << name;
