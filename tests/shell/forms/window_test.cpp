@@ -50,7 +50,15 @@ const struct {
     {"review, SmartRandom", [](Example& w) { w.review(0); }},
     {"review, serial", [](Example& w) { w.review(3); }},
     {"review, balance asked for", [](Example& w) { w.review(3)->cmdBalance->click(); }},
-    {"day editor", [](Example& w) { w.review(3)->labDay_MouseDown(8); }},
+    {"day editor, six shifts of four agents",
+     [](Example& w) {
+         w.ws.gShiftCount[5] = 6;
+         for (int n = 1; n <= 6; ++n) {
+             w.ws.gShiftAgents[5][n] = 3;
+             w.ws.gShiftText[5][n] = QStringLiteral("10:30am-2:30pm");
+         }
+         w.review(3)->labDay_MouseDown(kFirstCell + 7);
+     }},
     {"weekday editor",
      [](Example& w) {
          w.main->mnuEShifts->trigger();
