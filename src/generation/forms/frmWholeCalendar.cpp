@@ -136,7 +136,7 @@ void frmWholeCalendar::addBalancePanel() {
 }
 
 QSize frmWholeCalendar::sizeHint() const {
-    return {calendarWidth_ + layout()->spacing() + balancePanel->maximumWidth(),
+    return {calendarWidth_ + layout()->spacing() + balancePanel->wholeWidth(),
             Form::sizeHint().height()};
 }
 
@@ -147,8 +147,11 @@ QSize frmWholeCalendar::minimumSizeHint() const {
 }
 
 void frmWholeCalendar::fitBalancePanel() {
-    const int room = calendarWidth_ + layout()->spacing() + balancePanel->minimumSizeHint().width();
-    const bool shown = balanceShown_.value_or(width() >= room);
+    const int spare = width() - calendarWidth_ - layout()->spacing();
+    const bool shown = balanceShown_.value_or(spare >= balancePanel->minimumSizeHint().width());
+    // The balance that shows by itself takes only what the calendar leaves; the one the
+    // user asked for may narrow the calendar's days.
+    balancePanel->limitWidth(balanceShown_.value_or(false) ? balancePanel->wholeWidth() : spare);
     if (!shown) {
         balancePanel->choose(0);
     }
