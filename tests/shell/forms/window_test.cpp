@@ -2,6 +2,7 @@
 #include "core/forms/elidedlabel.h"
 #include "core/model/agentkeys.h"
 #include "core/services/textfile.h"
+#include "generation/forms/balancepanel.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "mainwindow.h"
@@ -109,7 +110,7 @@ void expectLaidOut(const Form* face) {
 // The window's least size, taken as it opens, is what every face needs in every state, with
 // no scroll bar on a screen of 1024 by 768, and stays so. From a maximised screen of 1920 by 1080
 // down to the least size every face fills the window with nothing cut and nothing over another; at
-// 1920 by 1080 the example's month reads whole.
+// 1920 by 1080 the example's month reads whole, and at 1280 by 1024 beside the balance.
 TEST(Window, EveryFaceFitsFromAMaximisedScreenDownToTheLeastSize) {
     for (const auto& state : kStates) {
         SCOPED_TRACE(state.name);
@@ -131,6 +132,11 @@ TEST(Window, EveryFaceFitsFromAMaximisedScreenDownToTheLeastSize) {
     for (const ElidedLabel* cell : w.main->review()->labDay) {
         EXPECT_FALSE(cell->isCut()) << cell->text().toStdString();
     }
+    // Beside the balance that shows by itself the days keep their whole width.
+    w.window->resize(1280, 994);
+    QApplication::processEvents();
+    EXPECT_TRUE(w.main->review()->balancePanel->isVisible());
+    EXPECT_GE(w.cell(8)->width(), w.cell(8)->sizeHint().width());
 }
 
 // The window shows again where it was left, maximised or not; a place that lies on no screen
