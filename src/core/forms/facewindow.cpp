@@ -57,7 +57,10 @@ void FaceWindow::addFace(Form* face) {
 }
 
 void FaceWindow::fitFaces() {
-    QSize least = stage_->minimumSizeHint();
+    // A face's state that needs less room, a month of five weeks, leaves the least size as
+    // it was, so that the window can never be made too small for a state yet to come.
+    needed_ = needed_.expandedTo(stage_->minimumSizeHint());
+    QSize least = needed_;
     QSize wanted = stage_->sizeHint().expandedTo(least);
     if (const QScreen* display = screen()) {
         const QSize room = (display->availableGeometry() - frameMargins()).size();

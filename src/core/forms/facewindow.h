@@ -25,8 +25,9 @@ public:
 
     // Makes the form a face of this window, hidden until it is shown.
     void addFace(Form* face);
-    // Makes the room every face needs the window's least size, within the available area of
-    // its screen, and grows the window to it where it is smaller. A window not yet shown
+    // Makes the room every face needs, the most it has needed in any state so far, the
+    // window's least size, within the available area of its screen, and grows the window to
+    // it where it is smaller. A window not yet shown
     // takes the size its faces ask for. A face that comes to need more room later, by a longer
     // caption, fits the window to itself again.
     void fitFaces();
@@ -60,4 +61,6 @@ private:
     Form* active_ = nullptr;
     bool closing_ = false;
     bool sized_ = false;
+    // The most room the faces have needed together.
+    QSize needed_{0, 0};
 };

@@ -1,6 +1,7 @@
 #include "constraints/forms/frmHolidays.h"
 #include "core/forms/elidedlabel.h"
 #include "core/model/agentkeys.h"
+#include "core/model/calendar.h"
 #include "core/services/textfile.h"
 #include "generation/forms/balancepanel.h"
 #include "generation/forms/frmIndividualDay.h"
@@ -50,6 +51,12 @@ const struct {
     {"agent editor", [](Example& w) { w.main->cmdAdd->click(); }},
     {"review, SmartRandom", [](Example& w) { w.review(0); }},
     {"review, serial", [](Example& w) { w.review(3); }},
+    {"review of a month of five weeks",
+     [](Example& w) {
+         w.ws.gCurrentMonth = 2;
+         modSetupMonth(w.ws);
+         w.review(3);
+     }},
     {"review, balance asked for", [](Example& w) { w.review(3)->cmdBalance->click(); }},
     {"day editor, six shifts of four agents",
      [](Example& w) {
