@@ -41,4 +41,4 @@ bool writeWindowPlace(const QString& path, const WindowPlace& place);
 // window with its frame needs to lie inside it; a place that lies on no area any more goes
 // to the middle of the primary screen's area.
 WindowPlace placeOnScreens(const WindowPlace& saved, const QList<QRect>& areas,
-                           const QMargins& frame, const QSize& least);
+                           const QMargins& frame, const QSize& least = QSize());
