@@ -70,7 +70,7 @@ bool writeWindowPlace(const QString& path, const WindowPlace& place) {
 }
 
 WindowPlace placeOnScreens(const WindowPlace& saved, const QList<QRect>& areas,
-                           const QMargins& frame) {
+                           const QMargins& frame, const QSize& least) {
     if (areas.isEmpty()) {
         return saved;
     }
@@ -79,7 +79,9 @@ WindowPlace placeOnScreens(const WindowPlace& saved, const QList<QRect>& areas,
                                  [&](const QRect& area) { return area.contains(middle); });
     // The window's inside may use what the area leaves it within the frame.
     const QRect room = (on != areas.cend() ? *on : areas.front()) - frame;
-    QRect normal = saved.normal;
+    // A window kept smaller than its faces need now, by an earlier version or at another
+    // scale, opens at the size they need, and is placed at that size.
+    QRect normal(saved.normal.topLeft(), saved.normal.size().expandedTo(least));
     if (on == areas.cend()) {
         normal.setSize(normal.size().boundedTo(room.size()));
         normal.moveCenter(room.center());

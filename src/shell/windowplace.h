@@ -37,8 +37,9 @@ std::optional<WindowPlace> readWindowPlace(const QString& path);
 bool writeWindowPlace(const QString& path, const WindowPlace& place);
 
 // The place the window takes among the screens' available areas, the primary screen's
-// first, where its frame adds the given margins: a place whose middle lies on an area stays
-// on that area, moved and shrunk as far as the window with its frame needs to lie inside it;
-// a place that lies on no area any more goes to the middle of the primary screen's area.
+// first, where its frame adds the given margins and it is at least of the given size: a
+// place whose middle lies on an area stays on that area, moved and shrunk as far as the
+// window with its frame needs to lie inside it; a place that lies on no area any more goes
+// to the middle of the primary screen's area.
 WindowPlace placeOnScreens(const WindowPlace& saved, const QList<QRect>& areas,
-                           const QMargins& frame);
+                           const QMargins& frame, const QSize& least = QSize());

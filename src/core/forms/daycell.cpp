@@ -10,7 +10,8 @@ constexpr QMargins kPadding(4, 2, 4, 2);
 
 }  // namespace
 
-DayCell::DayCell(const QString& widthSample, int lines, QWidget* parent) : QFrame(parent) {
+DayCell::DayCell(const QString& widthSample, const QString& leastSample, int lines, QWidget* parent)
+    : QFrame(parent) {
     setFrameStyle(QFrame::Box | QFrame::Plain);
     // A sheet of the calendar, in the palette's colours of text on its base.
     setBackgroundRole(QPalette::Base);
@@ -26,9 +27,10 @@ DayCell::DayCell(const QString& widthSample, int lines, QWidget* parent) : QFram
     number->setFont(bold);
     number->setAlignment(Qt::AlignRight | Qt::AlignTop);
     const QFontMetrics metrics = fontMetrics();
-    size_ = QSize(metrics.horizontalAdvance(widthSample), lines * metrics.lineSpacing()) +
-            QSize(kPadding.left() + kPadding.right() + 2 * frameWidth(),
-                  kPadding.top() + kPadding.bottom() + 2 * frameWidth());
+    const QSize edges(kPadding.left() + kPadding.right() + 2 * frameWidth(),
+                      kPadding.top() + kPadding.bottom() + 2 * frameWidth());
+    size_ = QSize(metrics.horizontalAdvance(widthSample), lines * metrics.lineSpacing()) + edges;
+    least_ = QSize(metrics.horizontalAdvance(leastSample), size_.height() - edges.height()) + edges;
 }
 
 QSize DayCell::sizeHint() const {
@@ -36,7 +38,7 @@ QSize DayCell::sizeHint() const {
 }
 
 QSize DayCell::minimumSizeHint() const {
-    return size_;
+    return least_;
 }
 
 void DayCell::setMarked(bool marked) {

@@ -9,6 +9,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -56,18 +57,40 @@ void FaceWindow::addFace(Form* face) {
 }
 
 void FaceWindow::fitFaces() {
-    QSize least = stage_->minimumSizeHint();
+    // A face's state that needs less room, a month of five weeks, leaves the least size as
+    // it was, so that the window can never be made too small for a state yet to come.
+    needed_ = needed_.expandedTo(stage_->minimumSizeHint());
+    QSize least = needed_;
     QSize wanted = stage_->sizeHint().expandedTo(least);
     if (const QScreen* display = screen()) {
         const QSize room = (display->availableGeometry() - frameMargins()).size();
         least = least.boundedTo(room);
         wanted = wanted.boundedTo(room);
     }
+    if (isVisible()) {
+        growTo(least);
+    }
     setMinimumSize(least);
     if (!isVisible() && !sized_) {
         resize(wanted);
         sized_ = true;
     }
+}
+
+void FaceWindow::growTo(const QSize& size) {
+    const QScreen* display = screen();
+    if (isMaximized() || isFullScreen() || display == nullptr) {
+        return;
+    }
+    const QRect room = display->availableGeometry() - frameMargins();
+    const QSize grown = this->size().expandedTo(size.boundedTo(room.size()));
+    if (grown == this->size()) {
+        return;
+    }
+    QRect place(geometry().topLeft(), grown);
+    place.translate(std::min(0, room.right() - place.right()),
+                    std::min(0, room.bottom() - place.bottom()));
+    setGeometry(place);
 }
 
 QMargins FaceWindow::frameMargins() const {

@@ -25,11 +25,16 @@ public:
 
     // Makes the form a face of this window, hidden until it is shown.
     void addFace(Form* face);
-    // Makes the room every face needs the window's least size, within the available area of
-    // its screen, and grows the window to it where it is smaller. A window not yet shown
+    // Makes the room every face needs, the most it has needed in any state so far, the
+    // window's least size, within the available area of its screen, and grows the window to
+    // it where it is smaller. A window not yet shown
     // takes the size its faces ask for. A face that comes to need more room later, by a longer
     // caption, fits the window to itself again.
     void fitFaces();
+    // Grows the window, unless it is maximised, toward the size for its faces, as far as the
+    // available area of its screen allows; it moves back as far as it grew over the area's
+    // edge. It never shrinks the window.
+    void growTo(const QSize& size);
     // What the desktop's frame adds around the window: as it stands once the window is on
     // the screen, else room for a common frame and title bar.
     QMargins frameMargins() const;
@@ -56,4 +61,6 @@ private:
     Form* active_ = nullptr;
     bool closing_ = false;
     bool sized_ = false;
+    // The most room the faces have needed together.
+    QSize needed_{0, 0};
 };

@@ -33,6 +33,10 @@ bool Form::unload() {
     return true;
 }
 
+void Form::askForRoom() {
+    window_.growTo(sizeHint());
+}
+
 // Only the program's own showing and hiding count; the window system's minimising and
 // restoring of the whole window is no change of face.
 void Form::showEvent(QShowEvent* event) {

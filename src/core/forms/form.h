@@ -36,6 +36,9 @@ protected:
     // False keeps the form loaded and on the screen.
     virtual bool Form_Unload() { return true; }
 
+    // The window grows toward the room this face asks for, as far as its screen allows.
+    void askForRoom();
+
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

@@ -41,8 +41,11 @@ protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        // A hint, in the palette's colour for hints, which stays readable on a dark window.
-        const QColor ink = palette().color(QPalette::PlaceholderText);
+        // A hint, in the window's text colour half let through, so that it stands apart
+        // from the text above it on a light window and a dark one alike. The palette's own
+        // colour for hints is no help here: a dark desktop theme may leave it dark.
+        QColor ink = palette().color(QPalette::WindowText);
+        ink.setAlphaF(0.55F);
         const QPointF centre(width() / 2.0, height() / 2.0 - 12);
         QPainterPath arrow;
         arrow.moveTo(centre + QPointF(-36, 0));

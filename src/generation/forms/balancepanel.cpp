@@ -13,6 +13,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 // The columns of the table are the balance's own but its last: the load stands as a sign
@@ -138,7 +140,7 @@ BalancePanel::BalancePanel(QWidget* parent) : QWidget(parent) {
     fitColumns();
 }
 
-// The table would be as wide as its columns, and needs room at least for the agent, the
+// The table needs no more room than its columns, and needs room at least for the agent, the
 // shifts and the hours, the others scrolling. The agents' column is at least as wide as a
 // common key with its sign, so that the panel knows its width before it shows a month.
 void BalancePanel::fitColumns() {
@@ -150,17 +152,22 @@ void BalancePanel::fitColumns() {
     }
     const int edges =
         tabBalance->verticalScrollBar()->sizeHint().width() + 2 * tabBalance->frameWidth();
-    fullWidth_ = tabBalance->horizontalHeader()->length() + edges;
     int keyFigures = edges;
     for (int c = 0; c < kKeyFigureColumns; ++c) {
         keyFigures += tabBalance->columnWidth(c);
     }
     tabBalance->setMinimumWidth(keyFigures);
+    wholeWidth_ = tabBalance->horizontalHeader()->length() + edges;
+    setMaximumWidth(wholeWidth_);
     updateGeometry();
 }
 
+void BalancePanel::limitWidth(int width) {
+    setMaximumWidth(std::max(minimumSizeHint().width(), std::min(width, wholeWidth_)));
+}
+
 QSize BalancePanel::sizeHint() const {
-    return {fullWidth_, QWidget::sizeHint().height()};
+    return {minimumSizeHint().width(), QWidget::sizeHint().height()};
 }
 
 void BalancePanel::showBalance(const Workspace& ws) {

@@ -31,8 +31,14 @@ public:
     int chosenAgent() const { return chosen_; }
     void choose(int agent);
 
-    // As wide as the whole table; the least is the room for its first columns.
+    // It asks for the room of the table's first columns, the others scrolling, and grows up
+    // to the whole table.
     QSize sizeHint() const override;
+    // The width of the whole table, all of its columns shown.
+    int wholeWidth() const { return wholeWidth_; }
+    // The panel grows no wider than the given width, nor than the whole table, but keeps
+    // the room of its first columns.
+    void limitWidth(int width);
 
     QTableView* tabBalance;
     QLabel* labSpread;
@@ -58,5 +64,5 @@ private:
     QStandardItemModel* model_;
     QSortFilterProxyModel* sorted_;
     int chosen_ = 0;
-    int fullWidth_ = 0;
+    int wholeWidth_ = 0;
 };

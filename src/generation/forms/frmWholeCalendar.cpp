@@ -32,8 +32,10 @@ constexpr int kRows = MonthCells::kRows;
 // corner: what does not fit is cut with a mark, and shown whole as the cell's tooltip.
 constexpr int kCellLines = 6;
 // A cell is as wide as two keys of common length joined by a slash; seven of them fit a
-// screen of 1024 pixels.
+// screen of 1024 pixels. Where the balance beside the calendar needs the room, a cell gives
+// way down to one such key with its slash, so that the names still break whole.
 const QString kCellSample = QStringLiteral("Nakamura/Svensson");
+const QString kCellLeastSample = QStringLiteral("Nakamura/");
 // The rows of the form's grid: the instruction, the day names, six weeks, the buttons.
 constexpr int kInstructionRow = 0;
 constexpr int kDayNameRow = 1;
@@ -77,7 +79,7 @@ void frmWholeCalendar::buildControls() {
 
     std::array<QWidget*, kCells> boxes{};
     for (int i = 0; i < kCells; ++i) {
-        cells_[i] = new DayCell(kCellSample, kCellLines, this);
+        cells_[i] = new DayCell(kCellSample, kCellLeastSample, kCellLines, this);
         boxes[i] = cells_[i];
         labDay[i] = cells_[i]->text;
         labDay[i]->setObjectName(indexedName("labDay", i));
@@ -115,7 +117,7 @@ void frmWholeCalendar::buildControls() {
 // The balance takes a column of its own right of the calendar, its toggle the left end of
 // the button row.
 void frmWholeCalendar::addBalancePanel() {
-    calendarWidth_ = grid_->minimumSize().width();
+    calendarWidth_ = grid_->sizeHint().width();
     balancePanel = new BalancePanel(this);
     balancePanel->hide();
     grid_->addWidget(balancePanel, kDayNameRow, kColumns, kButtonRow - kDayNameRow, 1);
@@ -125,34 +127,38 @@ void frmWholeCalendar::addBalancePanel() {
     connect(cmdBalance, &QPushButton::clicked, this, [this](bool shown) {
         balanceShown_ = shown;
         fitBalancePanel();
+        if (shown) {
+            askForRoom();
+        }
     });
     connect(balancePanel, &BalancePanel::agentChosen, this,
             [this](int agent) { markAgentDays(agent); });
 }
 
 QSize frmWholeCalendar::sizeHint() const {
-    QSize wanted = Form::sizeHint();
-    if (balancePanel->isHidden()) {
-        wanted.rwidth() += layout()->spacing() + balancePanel->sizeHint().width();
-    }
-    return wanted;
+    return {calendarWidth_ + layout()->spacing() + balancePanel->wholeWidth(),
+            Form::sizeHint().height()};
 }
 
 QSize frmWholeCalendar::minimumSizeHint() const {
     QSize least = Form::minimumSizeHint();
-    if (!balancePanel->isHidden() && !balanceShown_.value_or(false)) {
-        least.setWidth(calendarWidth_);
-    }
+    least.setWidth(std::max(least.width(), calendarWidth_));
     return least;
 }
 
 void frmWholeCalendar::fitBalancePanel() {
-    const int room = calendarWidth_ + layout()->spacing() + balancePanel->minimumSizeHint().width();
-    const bool shown = balanceShown_.value_or(width() >= room);
+    const int spare = width() - calendarWidth_ - layout()->spacing();
+    const bool shown = balanceShown_.value_or(spare >= balancePanel->minimumSizeHint().width());
+    // The balance that shows by itself takes only what the calendar leaves; the one the
+    // user asked for may narrow the calendar's days.
+    balancePanel->limitWidth(balanceShown_.value_or(false) ? balancePanel->wholeWidth() : spare);
     if (!shown) {
         balancePanel->choose(0);
     }
     balancePanel->setVisible(shown);
+    // Room beyond what the calendar and a shown balance ask for goes to both alike, until the
+    // balance shows its whole table; a hidden balance leaves all of it to the calendar.
+    grid_->setColumnStretch(kColumns, shown ? kColumns : 0);
     cmdBalance->setChecked(shown);
 }
 

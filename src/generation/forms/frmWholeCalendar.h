@@ -30,8 +30,9 @@ struct Workspace;
 // OK or the window's close box unload it, and the day editor with it.
 //
 // Beside the calendar stands the month's balance, shown when the form is wide enough for
-// both and otherwise hidden; the toggle "cmdBalance" shows or hides it at the user's word.
-// Choosing an agent in it marks the agent's days in the calendar.
+// both and otherwise hidden; the toggle "cmdBalance" shows or hides it at the user's word,
+// and shown so, it widens the window as far as the screen allows. Choosing an agent in it
+// marks the agent's days in the calendar.
 class frmWholeCalendar : public Form {
     Q_OBJECT
 
@@ -65,10 +66,12 @@ public:
     BalancePanel* balancePanel;
     QPushButton* cmdBalance;
 
-    // The form asks for room for the balance, also while it is hidden.
+    // The form asks for room for the calendar and the whole balance, also while the balance
+    // is hidden.
     QSize sizeHint() const override;
-    // The balance that shows by itself gives way where the calendar needs the room, so it
-    // never makes the window larger; the balance the user asked for needs its room.
+    // The balance takes its room from what the calendar's cells can give up, so the form
+    // never needs more room than the calendar alone: the balance that shows by itself shows
+    // only where the cells keep their width, the one the user asked for narrows them.
     QSize minimumSizeHint() const override;
 
 protected:
@@ -92,7 +95,7 @@ private:
     std::array<DayCell*, kCells> cells_;
     MonthCells* days_;
     frmIndividualDay* dayEditor_;
-    // The width the calendar needs without the balance.
+    // The width the calendar asks for, its cells as wide as their sample.
     int calendarWidth_ = 0;
     // Whether the user asked for the balance, until then nothing.
     std::optional<bool> balanceShown_;

@@ -18,7 +18,8 @@ void showWindowAsLeft(FaceWindow& window, const QString& placeFile) {
                 areas.append(display->availableGeometry());
             }
         }
-        const WindowPlace place = placeOnScreens(*kept, areas, window.frameMargins());
+        const WindowPlace place =
+            placeOnScreens(*kept, areas, window.frameMargins(), window.minimumSize());
         window.setGeometry(place.normal);
         if (place.maximised) {
             window.showMaximized();

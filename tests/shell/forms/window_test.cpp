@@ -1,7 +1,9 @@
 #include "constraints/forms/frmHolidays.h"
 #include "core/forms/elidedlabel.h"
 #include "core/model/agentkeys.h"
+#include "core/model/calendar.h"
 #include "core/services/textfile.h"
+#include "generation/forms/balancepanel.h"
 #include "generation/forms/frmIndividualDay.h"
 #include "generation/forms/frmWholeCalendar.h"
 #include "mainwindow.h"
@@ -9,6 +11,8 @@
 #include "shell/forms/windowkeeper.h"
 
 #include <gtest/gtest.h>
+
+#include <QLayout>
 
 #include <algorithm>
 
@@ -47,7 +51,22 @@ const struct {
     {"agent editor", [](Example& w) { w.main->cmdAdd->click(); }},
     {"review, SmartRandom", [](Example& w) { w.review(0); }},
     {"review, serial", [](Example& w) { w.review(3); }},
-    {"day editor", [](Example& w) { w.review(3)->labDay_MouseDown(8); }},
+    {"review of a month of five weeks",
+     [](Example& w) {
+         w.ws.gCurrentMonth = 2;
+         modSetupMonth(w.ws);
+         w.review(3);
+     }},
+    {"review, balance asked for", [](Example& w) { w.review(3)->cmdBalance->click(); }},
+    {"day editor, six shifts of four agents",
+     [](Example& w) {
+         w.ws.gShiftCount[5] = 6;
+         for (int n = 1; n <= 6; ++n) {
+             w.ws.gShiftAgents[5][n] = 3;
+             w.ws.gShiftText[5][n] = QStringLiteral("10:30am-2:30pm");
+         }
+         w.review(3)->labDay_MouseDown(kFirstCell + 7);
+     }},
     {"weekday editor",
      [](Example& w) {
          w.main->mnuEShifts->trigger();
@@ -61,17 +80,22 @@ const struct {
 };
 
 // Every control that the face lays out, on the face or in a frame, lies inside what holds
-// it with the room its text needs, and overlaps none of the controls beside it.
+// it with the room its text needs, and overlaps none of the controls beside it; together
+// they reach across the whole face, leaving no room unused at its right.
 void expectLaidOut(const Form* face) {
     QList<QWidget*> shown;
+    QRect spread;
     for (QWidget* control : face->findChildren<QWidget*>()) {
         const QWidget* holder = control->parentWidget();
         if (control->isVisible() && control->metaObject() != &QWidget::staticMetaObject &&
             (holder == face || holder->inherits("QGroupBox") ||
              holder->metaObject() == &QWidget::staticMetaObject)) {
             shown.append(control);
+            spread |=
+                control->geometry().translated(control->parentWidget()->mapTo(face, QPoint()));
         }
     }
+    EXPECT_GE(spread.right(), face->layout()->contentsRect().right()) << "room left unused";
     for (const QWidget* control : shown) {
         const std::string name = control->objectName().toStdString();
         EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry())) << name;
@@ -93,7 +117,7 @@ void expectLaidOut(const Form* face) {
 // The window's least size, taken as it opens, is what every face needs in every state, with
 // no scroll bar on a screen of 1024 by 768, and stays so. From a maximised screen of 1920 by 1080
 // down to the least size every face fills the window with nothing cut and nothing over another; at
-// 1920 by 1080 the example's month reads whole.
+// 1920 by 1080 the example's month reads whole, and at 1280 by 1024 beside the balance.
 TEST(Window, EveryFaceFitsFromAMaximisedScreenDownToTheLeastSize) {
     for (const auto& state : kStates) {
         SCOPED_TRACE(state.name);
@@ -115,6 +139,11 @@ TEST(Window, EveryFaceFitsFromAMaximisedScreenDownToTheLeastSize) {
     for (const ElidedLabel* cell : w.main->review()->labDay) {
         EXPECT_FALSE(cell->isCut()) << cell->text().toStdString();
     }
+    // Beside the balance that shows by itself the days keep their whole width.
+    w.window->resize(1280, 994);
+    QApplication::processEvents();
+    EXPECT_TRUE(w.main->review()->balancePanel->isVisible());
+    EXPECT_GE(w.cell(8)->width(), w.cell(8)->sizeHint().width());
 }
 
 // The window shows again where it was left, maximised or not; a place that lies on no screen
@@ -136,10 +165,13 @@ TEST(Window, TheWindowComesBackAsItWasLeft) {
     EXPECT_TRUE(maximised.isMaximized());
 
     writeTextFile(file, QStringLiteral("[Window]\nLeft=3000\nTop=2000\nWidth=700\nHeight=500\n"));
-    FaceWindow moved;
-    showWindowAsLeft(moved, file);
+    // The window needs more room than it was left with.
     const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    FaceWindow moved;
+    moved.setMinimumSize(area.size() * 9 / 10);
+    showWindowAsLeft(moved, file);
     EXPECT_LE((moved.geometry().center() - area.center()).manhattanLength(), 40);
+    EXPECT_TRUE(area.contains(moved.geometry()));
 }
 
 // The arrow keys walk the month's days in the review and in the day picker, Home and End go
