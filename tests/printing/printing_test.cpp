@@ -245,10 +245,7 @@ TEST(ConstraintsReport, ListsTheLinesOrEndsEarly) {
 
     // 103 lines fit ten inches at 6 points.
     Office many;
-    QStringList hundred;
-    for (int i = 0; i < 100; ++i) {
-        hundred.append(QStringLiteral("line %1").arg(i));
-    }
+    const QStringList hundred(100, QStringLiteral("line"));
     printConstraints(many.ws, many.s.ctx, many.printers.printer(), {{hundred, {}, {}, {}}});
     EXPECT_TRUE(many.printers.calls.contains(QStringLiteral("FontSize = 6")));
     EXPECT_FALSE(many.printers.calls.contains(QStringLiteral("FontSize = 5")));
