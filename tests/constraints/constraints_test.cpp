@@ -166,11 +166,9 @@ TEST_F(DayPicker, TheTwentyNinthOfAnOwnLeapFebruaryIsKept) {
     openMonth(ws, 2100, 2, home.path());
     ws.gEditDay = 29;
     ws.gHolidayName[29] = proposedDayName(ws);
-    savePickedDays(ws, s.ctx, [] {
-        PickedDays p{};
-        p[29] = true;
-        return p;
-    }());
+    PickedDays picks{};
+    picks[29] = true;
+    savePickedDays(ws, s.ctx, picks);
     const Workspace reread = readAgain();
     EXPECT_EQ(holidayLines(reread), texts({"President's Day, February 29"}));
 }

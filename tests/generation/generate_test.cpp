@@ -71,8 +71,8 @@ TEST(Generate, WarnsByTheRatioOfAgentsToTheBusiestDay) {
     }
 }
 
-// Every engine starts from an erased schedule, days outside the month included; a serial
-// engine starts after a drawn agent, or after the one it is given.
+// Every engine starts from an erased schedule, days outside the month included. Where a serial
+// engine starts when it is given an agent is the headless tool's test.
 TEST(Generate, RunsTheEngineOnAnErasedSchedule) {
     for (const int engine :
          {kEngineSmartRandom, kEngineShuffled, kEngineHorizontal, kEngineMixed}) {
@@ -91,11 +91,6 @@ TEST(Generate, RunsTheEngineOnAnErasedSchedule) {
         EXPECT_FALSE(ws.schedule(3, 1, 4).isEmpty());
         EXPECT_TRUE(ws.schedule(2, 1, 0).isEmpty());
     }
-    Office office(10, 5);
-    office.ws.gEngine = kEngineHorizontal;
-    runEngine(office.ws, office.s.ctx, {}, 6);
-    EXPECT_EQ(office.ws.gBaseAgent, 6);
-    EXPECT_EQ(office.ws.schedule(3, 1, 0), QStringLiteral("Agent007"));
 }
 
 // The window closed during the SmartRandom deal, after a position or before the weekend

@@ -52,11 +52,6 @@ std::vector<int> weekendTallies(const Workspace& ws) {
     return tallies;
 }
 
-int spread(std::vector<int> tallies) {
-    const auto [low, high] = std::minmax_element(tallies.begin() + 1, tallies.end());
-    return *high - *low;
-}
-
 // Runs the engine from the fixed state, logging into a scratch folder unless a log is set.
 void generate(Workspace& ws, const SmartRandomProgress& progress = {}) {
     static const QTemporaryDir dir;
@@ -66,36 +61,6 @@ void generate(Workspace& ws, const SmartRandomProgress& progress = {}) {
     TestServices s;
     s.ctx.random.setState(kState);
     modGenerateSmartRandom(ws, s.ctx, progress);
-}
-
-// Over small offices of many shapes: where the sweep leaves weekend tallies more than one
-// apart, the repair brings them within one; where it leaves them within one, the repair
-// changes nothing at all.
-TEST(SmartRandom, RepairEvensOutWeekendsAndLeavesEvenOnesAlone) {
-    int evened = 0;
-    int leftAlone = 0;
-    for (int agents = 3; agents <= 10; ++agents) {
-        for (int weekendShifts = 1; weekendShifts <= 2; ++weekendShifts) {
-            for (int weekdayShifts = 1; weekdayShifts <= 3; ++weekdayShifts) {
-                Workspace ws;
-                makeJanuary(ws, agents, weekendShifts, weekdayShifts);
-                Workspace swept;
-                SmartRandomProgress progress;
-                progress.repairing = [&] { swept = ws; };
-                generate(ws, progress);
-
-                if (spread(weekendTallies(swept)) <= 1) {
-                    ++leftAlone;
-                    EXPECT_EQ(ws.gSchedule, swept.gSchedule) << agents << " agents";
-                } else {
-                    ++evened;
-                    EXPECT_LE(spread(weekendTallies(ws)), 1) << agents << " agents";
-                }
-            }
-        }
-    }
-    EXPECT_GT(evened, 0);
-    EXPECT_GT(leftAlone, 0);
 }
 
 // Months the engine cannot fill as it would like still end with every position filled, no

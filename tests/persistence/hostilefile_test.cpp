@@ -1,10 +1,10 @@
 #include "core/model/calendar.h"
 #include "core/model/session.h"
 #include "core/model/workspace.h"
+#include "core/services/textfile.h"
 #include "fakes.h"
 #include "persistence/workspacefile.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
@@ -74,11 +74,7 @@ TEST(HostileFiles, LoadWithoutHarm) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         const QString path = dir.filePath(QStringLiteral("hostile.dko"));
-        {
-            QFile file(path);
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(c.bytes());
-        }
+        ASSERT_TRUE(writeFileBytes(path, c.bytes()));
         TestServices s;
         Workspace ws;
         modInitNameTables(ws);

@@ -18,26 +18,14 @@ TEST(ProfileFile, SetValueChangesOneLineAndKeepsTheRest) {
     }
 }
 
+// A missing section has no names; a value ends at a null. Where the buffers cut a long list of
+// names and a long value is the hostile files' test.
 TEST(ProfileApi, KeyNamesAndValuesPassThroughTheirBuffers) {
-    QString text = QStringLiteral("[Agents]\r\n");
-    for (int i = 1; i <= 3000; ++i) {
-        text += QString::number(i) + QStringLiteral("=x\r\n");
-    }
-    text += QStringLiteral("[Titles]\r\nLong=") + QString(2000, QLatin1Char('v')) +
-            QStringLiteral("\r\nNull=before") + QChar(0) + QStringLiteral("after\r\n");
-    const ProfileFile file(text);
-
-    std::vector<QString> keys;
-    // "1".."9" take 2 characters with their nulls, then 3, 4 and 5: the names up to 1859 fit
-    // whole into 8191 characters, before the list's closing null.
-    ASSERT_EQ(modReadKeyNames(file, QStringLiteral("Agents"), keys), 1859);
-    EXPECT_EQ(keys[1], QStringLiteral("1"));
-    EXPECT_EQ(keys[1859], QStringLiteral("1859"));
+    const ProfileFile file(QStringLiteral("[Titles]\r\nNull=before") + QChar(0) +
+                           QStringLiteral("after\r\n"));
+    std::vector<QString> keys(3);
     EXPECT_EQ(modReadKeyNames(file, QStringLiteral("Missing"), keys), 0);
     EXPECT_EQ(keys.size(), 1U);
-
-    EXPECT_EQ(modReadProfileValue(file, QStringLiteral("Titles"), QStringLiteral("Long")),
-              QString(1023, QLatin1Char('v')));
     EXPECT_EQ(modReadProfileValue(file, QStringLiteral("Titles"), QStringLiteral("Null")),
               QStringLiteral("before"));
 }

@@ -98,11 +98,7 @@ TEST_F(WorkspaceFileTest, OnlySchedulesOfThisVersionAreRead) {
         EXPECT_EQ(modLoadWorkspace(loaded, services.ctx, path("other.dko")), read) << version;
         EXPECT_EQ(loaded.gAgentCount, read ? 2 : 0) << version;
         EXPECT_EQ(services.dialogs.texts(),
-                  read ? QStringList()
-                       : texts({"The file you are attempting to open cannot be read\r\nby this "
-                                "version of the program.  Please open this \r\nDKO file using "
-                                "the version of Desko for Windows \r\nwith which it was "
-                                "created."}))
+                  read ? QStringList() : QStringList{golden("refusal.err")})
             << version;
         EXPECT_TRUE(read || services.dialogs.shown[0].icon == MsgIcon::Stop);
     }
