@@ -23,6 +23,15 @@ QStringList texts(std::initializer_list<const char*> list) {
     return result;
 }
 
+std::deque<MsgAnswer> answersNamed(const QString& names) {
+    const QStringList all = texts({"OK", "Cancel", "Yes", "No"});  // as MsgAnswer
+    std::deque<MsgAnswer> answers;
+    for (const QString& name : names.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        answers.push_back(static_cast<MsgAnswer>(all.indexOf(name)));
+    }
+    return answers;
+}
+
 QString golden(const char* name) {
     QFile file(QStringLiteral(DESKO_GOLDEN_DIR "/") + QString::fromUtf8(name));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();

@@ -21,6 +21,9 @@ void PrintTo(const QString& text, std::ostream* os);
 // A list of texts written as UTF-8 literals.
 QStringList texts(std::initializer_list<const char*> list);
 
+// The boxes' answers named in turn, as in "Yes No Cancel".
+std::deque<MsgAnswer> answersNamed(const QString& names);
+
 // The text of an expected file under tests/persistence/golden, CR LF and all.
 QString golden(const char* name);
 
