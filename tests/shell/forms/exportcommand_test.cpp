@@ -6,7 +6,6 @@
 #include "mainwindow.h"
 #include "offices.h"
 
-#include <QDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -89,21 +88,4 @@ TEST(ExportCommand, ClosingTheWindowStopsTheExportBeforeTheCloseRoad) {
     const QString log = fileText(w.ws.gLogFile);
     EXPECT_LT(log.indexOf(u"Failed to create"), log.indexOf(u"Unloading the main form"));
     EXPECT_TRUE(log.section(QStringLiteral("\r\n"), -2, -2).contains(u"Closing Desko40.log on "));
-}
-
-// File > Save calendars as iCalendar files... asks for a folder in the program's directory, and
-// writes a file per agent and one for the office there.
-TEST(ExportCommand, SavesTheCalendarsInTheFolderChosen) {
-    MainWindow w;
-    setAgents(w.ws, {{"Brennan", "Pat"}, {"Chen", "Wei"}});
-    frmMain& main = w.open();
-    QAction* item = w.control<QAction>("mnuFSaveIcs");
-    w.ws.gScheduleGenerated = 1;
-    emit main.mnuFile->aboutToShow();
-    w.s.dialogs.fileAnswers = {w.home.path()};
-    item->trigger();
-    EXPECT_EQ(w.s.dialogs.filesShown.at(0).request.initialDir, w.ws.gAppPath);
-    EXPECT_EQ(QDir(w.home.path()).entryList({QStringLiteral("*.ics")}),
-              QStringList({QStringLiteral("Brennan, Pat.ics"), QStringLiteral("Chen, Wei.ics"),
-                           QStringLiteral("Office.ics")}));
 }
