@@ -1,3 +1,4 @@
+#include "core/model/leaveempty.h"
 #include "core/model/workspace.h"
 #include "core/services/textfile.h"
 #include "generation/forms/frmWholeCalendar.h"
@@ -177,6 +178,13 @@ void act(MainWindow& w, const QString& verb, const QString& rest) {
         ws.gAgentCount = rest.toInt();  // the first of them, in list order
     } else if (verb == u"table") {      // that many shifts of one agent every day
         setTable(ws, rest.toInt(), 1);
+    } else if (verb == u"deal") {  // the agents in turn over the month, each shift 9am-5pm
+        dealInTurn(ws);
+        ws.gShiftText.fill({QString(), QStringLiteral("9am-5pm")});
+    } else if (verb == u"leave-empty") {  // the day's first position
+        ws.schedule(rest.toInt(), 1, 0) = leaveEmptyText();
+    } else if (verb == u"cell") {
+        w.s.dialogs.said.append(QStringLiteral("cell: ") + ws.schedule(rest.toInt(), 1, 0));
     } else if (verb == u"generated") {
         ws.gScheduleGenerated = rest.toInt();
     } else if (verb == u"chosen") {
