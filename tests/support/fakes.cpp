@@ -176,7 +176,6 @@ std::optional<QString> ScriptedDialogs::inputBox(const QString& prompt, const QS
 }
 
 std::optional<int> ScriptedDialogs::chooseItem(const QString& prompt, const QStringList& items) {
-    choicesShown.emplace_back(prompt, items);
     const std::optional<int> answer = next(choiceAnswers);
     said.append(QStringLiteral("choose \"%1\" of %2 -> %3")
                     .arg(prompt, items.join(QStringLiteral(" / ")),
