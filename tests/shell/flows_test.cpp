@@ -10,6 +10,7 @@
 #include "shell/monthchange.h"
 #include "shell/programstart.h"
 #include "shell/shutdown.h"
+#include "tables.h"
 
 #include <QDir>
 #include <QFile>
@@ -137,93 +138,82 @@ struct Office final : MainView {
     const char* referenceName = "office.dko";
 };
 
-using Step = std::function<void(Office&)>;
+// The run's end as a road out tells it, and whether the working file was there while it
+// asked.
+void roadOut(Office& o, bool (*road)(Workspace&, Context&, MainView&)) {
+    o.s.dialogs.whileShown = [&o] {
+        o.say(QFile::exists(o.ws.gConfigFile) ? QStringLiteral("  (the working file written)")
+                                              : QStringLiteral("  (no working file)"));
+    };
+    o.say(road(o.ws, o.s.ctx, o) ? QStringLiteral("the program ends")
+                                 : QStringLiteral("the program stays"));
+}
 
-// The month and year given, with the month's data or without it, and an Outlook body that
-// outlives a month; then the stepper's values in turn, from 0: +1 is one step down (the month
-// before), -1 one step up (the month after), anything else a drag of the thumb.
-Step stepMonth(int month, int year, bool data, std::vector<int> values) {
-    return [=](Office& o) {
-        o.ws.gCurrentMonth = month;
-        o.ws.gCurrentYear = year;
+// Carries out a flow's command with its fields (f), as the table of flows writes them.
+void run(Office& o, const QStringList& f) {
+    const QString& command = f[0];
+    if (command == u"save as") {
+        saveScheduleAs(o.ws, o.s.ctx, o);
+    } else if (command == u"new") {  // notes and an Outlook body outlive a month, not a New
+        o.ws.gCalendarNotes = o.ws.gOutlookBody = QStringLiteral("notes");
+        newSchedule(o.ws, o.s.ctx, o);
+    } else if (command.startsWith(u"open")) {
+        o.giveFiles();
+        if (command == u"open example" || f.value(1) == u"given/chosen.dko") {
+            o.referenceName = "the file opened";
+        }
+        if (command == u"open over none") {  // where a refused file leaves none to review
+            o.ws.gScheduleGenerated = 0;
+        }
+        if (command != u"open named") {
+            openScheduleFile(o.ws, o.s.ctx, o);
+        } else {
+            QString path = o.path(f[1]);
+            modOpenFromCommandLine(o.ws, o.s.ctx, o, path);
+            o.say(QStringLiteral("the command line is now \"") + path + QLatin1Char('"'));
+        }
+    } else if (command == u"close" || command == u"exit") {
+        roadOut(o, command == u"close" ? closeMainWindow : exitProgram);
+    } else if (command == u"month") {  // month, year, data or not, then the stepper's values
+        // From 0: +1 is one step down (the month before), -1 one step up (the month after),
+        // anything else a drag of the thumb. An Outlook body outlives a month.
+        o.ws.gCurrentMonth = f[1].toInt();
+        o.ws.gCurrentYear = f[2].toInt();
         modSetupMonth(o.ws);
         o.ws.gOutlookBody = QStringLiteral("kept");
-        if (!data) {
+        if (f[3] != u"data") {
             o.ws.gHasHolidays = o.ws.gHasNotedDays = o.ws.gHasVacations = 0;
             o.ws.gScheduleGenerated = 0;
         }
-        for (const int value : values) {
-            o.say(changeMonth(o.ws, o.s.ctx, value) ? QStringLiteral("the month changes")
-                                                    : QStringLiteral("the month stays"));
+        for (const QString& value : f[4].split(u' ')) {
+            o.say(changeMonth(o.ws, o.s.ctx, value.toInt()) ? QStringLiteral("the month changes")
+                                                            : QStringLiteral("the month stays"));
         }
-    };
-}
-
-// The run's end as a road out tells it, and whether the working file was there while it
-// asked.
-Step roadOut(bool (*road)(Workspace&, Context&, MainView&)) {
-    return [road](Office& o) {
-        o.s.dialogs.whileShown = [&o] {
-            o.say(QFile::exists(o.ws.gConfigFile) ? QStringLiteral("  (the working file written)")
-                                                  : QStringLiteral("  (no working file)"));
-        };
-        o.say(road(o.ws, o.s.ctx, o) ? QStringLiteral("the program ends")
-                                     : QStringLiteral("the program stays"));
-    };
-}
-
-// The edit frame's OK, adding (row -1) or changing the agent at the row, and how it ends: the
-// box the frame leaves the cursor in, or the list's change.
-Step edit(int row, const char* first, const char* last, const char* email = "") {
-    return [=](Office& o) {
+    } else if (command == u"edit") {  // the frame's OK adding (row -1) or changing the row
+        const int row = f[1].toInt();
         o.ws.gAgentEditMode = row < 0 ? 0 : 1;
         o.ws.gAgentEditIndex = static_cast<qint16>(row);
-        const AgentEditResult result = commitAgentEdit(
-            o.ws, o.s.ctx,
-            {QString::fromUtf8(first), QString::fromUtf8(last), QString::fromUtf8(email), false});
+        const AgentEditResult result = commitAgentEdit(o.ws, o.s.ctx, {f[2], f[3], f[4], false});
         const char* const ends[] = {"the first name", "the last name", "the frame closes"};
         o.say(QStringLiteral("the edit ends: %1; list item %2 out, %3 in; agent in work %4")
                   .arg(QLatin1String(ends[static_cast<int>(result.end)]))
                   .arg(result.removedItem)
                   .arg(result.insertedItem)
                   .arg(o.ws.gAgentEditIndex));
-    };
-}
-
-// Delete at the list index, and the agent chosen after it.
-Step remove(int row) {
-    return [row](Office& o) {
-        o.say(deleteAgentAsked(o.ws, o.s.ctx, row) ? QStringLiteral("deleted")
-                                                   : QStringLiteral("not deleted"));
+    } else if (command == u"delete") {
+        o.say(deleteAgentAsked(o.ws, o.s.ctx, f[1].toInt()) ? QStringLiteral("deleted")
+                                                            : QStringLiteral("not deleted"));
         o.say(QStringLiteral("agent chosen: ") + (o.ws.gSelectedAgent
                                                       ? QString::number(*o.ws.gSelectedAgent)
                                                       : QStringLiteral("none")));
-    };
-}
-
-// The address the address book gives for the edit frame's boxes, choosing one of several.
-Step lookUp(const char* first, const char* last, const char* typed, std::optional<int> choice) {
-    return [=](Office& o) {
+    } else if (command == u"look up") {  // first, last, typed, the item chosen of several
         o.s.ctx.launch.addressBook = QStringLiteral(DESKO_TESTS_DIR "/shell/golden/book");
-        o.s.dialogs.choiceAnswers = {choice};
+        o.s.dialogs.choiceAnswers = {f[4].isEmpty() ? std::nullopt : std::optional(f[4].toInt())};
         o.say(QStringLiteral("address: \"%1\"")
-                  .arg(lookUpAddress(o.ws, o.s.ctx,
-                                     {QString::fromUtf8(first), QString::fromUtf8(last),
-                                      QString::fromUtf8(typed)})));
-    };
-}
-
-// The command line's open of the file, the example office's or another.
-Step openNamed(const char* name) {
-    return [name](Office& o) {
-        o.giveFiles();
-        if (QLatin1String(name) == QLatin1String("given/chosen.dko")) {
-            o.referenceName = "the file opened";
-        }
-        QString path = o.path(QString::fromUtf8(name));
-        modOpenFromCommandLine(o.ws, o.s.ctx, o, path);
-        o.say(QStringLiteral("the command line is now \"") + path + QLatin1Char('"'));
-    };
+                  .arg(lookUpAddress(o.ws, o.s.ctx, {f[1], f[2], f[3]})));
+    } else {
+        ADD_FAILURE() << "no command " << command.toStdString();
+    }
 }
 
 }  // namespace
@@ -233,116 +223,17 @@ Step openNamed(const char* name) {
 // boxes and dialogs: what it asks, what it logs, the workspace it leaves and the files it
 // writes.
 TEST(ShellFlows, EachFlowAsksLogsAndLeavesWhatItAlwaysHas) {
-    const Step saveAs = [](Office& o) { saveScheduleAs(o.ws, o.s.ctx, o); };
-    // Notes and an Outlook body that outlive a month, but not a new schedule.
-    const Step makeNew = [](Office& o) {
-        o.ws.gCalendarNotes = o.ws.gOutlookBody = QStringLiteral("notes");
-        newSchedule(o.ws, o.s.ctx, o);
-    };
-    const Step open = [](Office& o) {
-        o.giveFiles();
-        openScheduleFile(o.ws, o.s.ctx, o);
-    };
-    // A file opened over a workspace without a schedule: a refused file leaves none to review.
-    const Step openOverNone = [&](Office& o) {
-        o.ws.gScheduleGenerated = 0;
-        open(o);
-    };
-    const Step openExample = [&](Office& o) {
-        o.referenceName = "the file opened";
-        open(o);
-    };
-    const MsgAnswer yes = MsgAnswer::Yes;
-    const MsgAnswer no = MsgAnswer::No;
-    const MsgAnswer cancel = MsgAnswer::Cancel;
-    const struct {
-        const char* name;
-        std::optional<int> dirty;
-        std::vector<MsgAnswer> answers;
-        std::vector<const char*> files;  // the file dialogs' answers in the folder; then cancel
-        Step run;
-    } flows[] = {
-        // clang-format off
-        {"Save As MAY OFFICE", 1, {}, {"MAY OFFICE"}, saveAs},
-        {"Save As june.DKO", 1, {}, {"june.DKO"}, saveAs},
-        {"Save As plan.txt", 1, {}, {"plan.txt"}, saveAs},
-        {"Save As front_desk-rota", 1, {}, {"front_desk-rota"}, saveAs},
-        {"Save As abc, too short for an extension", 1, {}, {"abc"}, saveAs},
-        {"Save As abcd", 1, {}, {"abcd"}, saveAs},
-        {"Save As cancelled", 1, {}, {}, saveAs},
-        {"New, unchanged since the start", std::nullopt, {}, {}, makeNew},
-        {"New, saved", 0, {}, {}, makeNew},
-        {"New, changed: Yes, saved first", 1, {yes}, {"saved first"}, makeNew},
-        {"New, changed: Yes, the save cancelled", 1, {yes}, {}, makeNew},
-        {"New, changed: No", 1, {no}, {}, makeNew},
-        {"New, changed: Cancel", 1, {cancel}, {}, makeNew},
-        {"Open, changed: Yes, saved first, the open cancelled", 1, {yes}, {"saved first"}, open},
-        {"Open, changed: Yes, both cancelled", 1, {yes}, {}, open},
-        {"Open, changed: No, the open cancelled", 1, {no}, {}, open},
-        {"Open, changed: Cancel", 1, {cancel}, {}, open},
-        {"Open the example office", 1, {no}, {"given/chosen.dko"}, openExample},
-        {"Open a damaged file", 1, {no}, {"given/damaged.dko"}, openOverNone},
-        {"Open bytes that are no profile", 1, {no}, {"given/noise.dko"}, openOverNone},
-        {"Open another version", 1, {no}, {"given/old.dko"}, openOverNone},
-        {"Open another version over a schedule", 1, {no}, {"given/old.dko"}, open},
-        {"Open a folder", 1, {no}, {"given/folder.dko"}, openOverNone},
-        {"Open a file that is not there", 1, {no}, {"given/absent.dko"}, openOverNone},
-        {"Open from the command line", std::nullopt, {}, {}, openNamed("given/chosen.dko")},
-        {"Open a hidden file from the command line", std::nullopt, {}, {}, openNamed("given/.hidden.dko")},
-        {"Open a missing file from the command line", std::nullopt, {}, {}, openNamed("given/absent.dko")},
-        {"Close, unchanged since the start", std::nullopt, {}, {}, roadOut(closeMainWindow)},
-        {"Close, saved", 0, {}, {}, roadOut(closeMainWindow)},
-        {"Close, changed: Yes, saved", 1, {yes}, {"last words"}, roadOut(closeMainWindow)},
-        {"Close, changed: Yes, the save cancelled", 1, {yes}, {}, roadOut(closeMainWindow)},
-        {"Close, changed: No", 1, {no}, {}, roadOut(closeMainWindow)},
-        {"Close, changed: Cancel", 1, {cancel}, {}, roadOut(closeMainWindow)},
-        {"Exit, unchanged since the start", std::nullopt, {}, {}, roadOut(exitProgram)},
-        {"Exit, saved", 0, {}, {}, roadOut(exitProgram)},
-        {"Exit, changed: Yes, saved", 1, {yes}, {"last words"}, roadOut(exitProgram)},
-        {"Exit, changed: Yes, the save cancelled", 1, {yes}, {}, roadOut(exitProgram)},
-        {"Exit, changed: No", 1, {no}, {}, roadOut(exitProgram)},
-        {"Month forward over December", std::nullopt, {}, {}, stepMonth(12, 2026, false, {-1})},
-        {"Month back over January", std::nullopt, {}, {}, stepMonth(1, 2027, false, {1})},
-        {"Month two steps back", std::nullopt, {}, {}, stepMonth(3, 2027, false, {1, 2})},
-        {"Month forward, Yes to erasing", std::nullopt, {yes}, {}, stepMonth(5, 2027, true, {-1})},
-        {"Month forward, No to erasing", std::nullopt, {no}, {}, stepMonth(5, 2027, true, {-1})},
-        {"Month forward after a No", std::nullopt, {no, yes}, {}, stepMonth(5, 2027, true, {-1, -2})},
-        {"Month dragged", std::nullopt, {}, {}, stepMonth(5, 2027, false, {-7})},
-        {"Month forward over the last year", std::nullopt, {}, {}, stepMonth(12, INT_MAX, false, {-1})},
-        {"Month back over the first year", std::nullopt, {}, {}, stepMonth(1, INT_MIN, false, {1})},
-        {"Add where the name sorts, No to the capitals", 0, {no}, {}, edit(-1, "Ana", "de la Cruz", "ana@office.example")},
-        {"Change to where the new name sorts", 0, {}, {}, edit(0, "Ann", "Young", "ann@office.example")},
-        {"Change the address alone", 0, {}, {}, edit(1, "Bo", "Baker", "bo@office.example")},
-        {"Add without a last name", 0, {}, {}, edit(-1, "Kim", "")},
-        {"Change without a first name", 0, {}, {}, edit(1, "", "Baker")},
-        {"Add a name in the list in other capitals", 0, {}, {}, edit(-1, "BO", "baker")},
-        {"Add a name in the list after an", 0, {}, {}, edit(-1, "Ann", "Adams")},
-        {"Change to a name in the list", 0, {}, {}, edit(1, "ann", "ADAMS")},
-        {"Add with an inner capital, Yes to correcting it", 0, {yes}, {}, edit(-1, "Ian", "McDonald")},
-        {"Change to a first name in small letters, Yes to correcting it", 0, {yes}, {}, edit(1, "bo", "Baker")},
-        {"Delete the first agent", 0, {yes}, {}, remove(0)},
-        {"Delete the last agent", 0, {yes}, {}, remove(1)},
-        {"Delete, No", 0, {no}, {}, remove(1)},
-        {"Delete with no agent chosen", 0, {}, {}, remove(-1)},
-        {"Look up the full name", 0, {}, {}, lookUp("Wei", "Chen", "", {})},
-        {"Look up the last name alone, in capitals", 0, {}, {}, lookUp("", " CHEN ", "", {})},
-        {"Look up the address typed", 0, {}, {}, lookUp("X", "Y", "ann.k@example.org", {})},
-        {"Look up a name with two addresses", 0, {}, {}, lookUp("Anna", "Fischer", "", 1)},
-        {"Look up a name with two addresses, Cancel", 0, {}, {}, lookUp("Anna", "Fischer", "", std::nullopt)},
-        {"Look up what is no address", 0, {}, {}, lookUp("Anna", "Fischer", "typed", {})},
-        // clang-format on
-    };
-    for (const auto& flow : flows) {
-        SCOPED_TRACE(flow.name);
+    for (const QStringList& flow : tableRows("shell/golden/flows.tsv")) {
+        SCOPED_TRACE(flow[0].toStdString());
         Office office;
-        office.ws.gDirty = flow.dirty;
-        office.s.dialogs.answers.assign(flow.answers.begin(), flow.answers.end());
-        for (const char* file : flow.files) {
-            office.s.dialogs.fileAnswers.push_back(office.path(QString::fromUtf8(file)));
+        office.ws.gDirty = flow[1].isEmpty() ? std::nullopt : std::optional(flow[1].toInt());
+        office.s.dialogs.answers = answersNamed(flow[2]);
+        for (const QString& file : flow[3].split(u'|', Qt::SkipEmptyParts)) {
+            office.s.dialogs.fileAnswers.push_back(office.path(file));
         }
-        flow.run(office);
-        expectTranscript(office.transcript(), "shell/golden/flows.txt",
-                         QString::fromUtf8(flow.name), office.home.path());
+        run(office, flow[4].split(u'|'));
+        expectTranscript(office.transcript(), "shell/golden/flows.txt", flow[0],
+                         office.home.path());
     }
 }
 

@@ -23,6 +23,15 @@ QStringList texts(std::initializer_list<const char*> list) {
     return result;
 }
 
+std::deque<MsgAnswer> answersNamed(const QString& names) {
+    const QStringList all = texts({"OK", "Cancel", "Yes", "No"});  // as MsgAnswer
+    std::deque<MsgAnswer> answers;
+    for (const QString& name : names.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        answers.push_back(static_cast<MsgAnswer>(all.indexOf(name)));
+    }
+    return answers;
+}
+
 QString golden(const char* name) {
     QFile file(QStringLiteral(DESKO_GOLDEN_DIR "/") + QString::fromUtf8(name));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -167,7 +176,6 @@ std::optional<QString> ScriptedDialogs::inputBox(const QString& prompt, const QS
 }
 
 std::optional<int> ScriptedDialogs::chooseItem(const QString& prompt, const QStringList& items) {
-    choicesShown.emplace_back(prompt, items);
     const std::optional<int> answer = next(choiceAnswers);
     said.append(QStringLiteral("choose \"%1\" of %2 -> %3")
                     .arg(prompt, items.join(QStringLiteral(" / ")),

@@ -21,6 +21,9 @@ void PrintTo(const QString& text, std::ostream* os);
 // A list of texts written as UTF-8 literals.
 QStringList texts(std::initializer_list<const char*> list);
 
+// The boxes' answers named in turn, as in "Yes No Cancel".
+std::deque<MsgAnswer> answersNamed(const QString& names);
+
 // The text of an expected file under tests/persistence/golden, CR LF and all.
 QString golden(const char* name);
 
@@ -83,9 +86,8 @@ public:
     std::deque<std::optional<QString>> inputAnswers;
     std::vector<std::pair<QString, QString>> inputsShown;
     // The choosers' answers in turn, an item's index or nothing for Cancel; when they run
-    // out, Cancel. The prompts and items shown, in turn.
+    // out, Cancel.
     std::deque<std::optional<int>> choiceAnswers;
-    std::vector<std::pair<QString, QStringList>> choicesShown;
     // Runs while a box is up, so a test can see the state the user sees it in.
     std::function<void()> whileShown;
 

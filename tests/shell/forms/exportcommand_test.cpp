@@ -6,38 +6,9 @@
 #include "mainwindow.h"
 #include "offices.h"
 
-#include <QDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
-
-// Export with E-mail and Calendar Creator ticked and no mail account: the message before the
-// screen changes, the e-mail box unticked, the file written, and the window back in its
-// normal face with its "Leave empty" slot as it was.
-TEST(ExportCommand, UnticksWhatCannotGoAndWritesTheFile) {
-    MainWindow w;
-    setAgents(w.ws, {{"Brennan", "Pat"}, {"Chen", "Wei"}});
-    setTable(w.ws, 1, 1);
-    dealInTurn(w.ws);
-    w.ws.gShiftText.fill({QString(), QStringLiteral("9am-5pm")});
-    w.ws.schedule(4, 1, 0) = leaveEmptyText();
-    w.ws.gScheduleGenerated = 1;
-    w.ws.chkPrint = {0, 0, 0, 1, 0, 1};
-    frmMain& main = w.open();
-    const QString csv = w.home.filePath(QStringLiteral("2027 January.csv"));
-    w.s.dialogs.fileAnswers = {csv};
-    bool statusShown = false;
-    w.s.dialogs.whileShown = [&] { statusShown = statusShown || main.fraStatus->isVisible(); };
-
-    QTest::mouseClick(w.control<QPushButton>("cmdExport"), Qt::LeftButton);
-
-    EXPECT_EQ(w.s.dialogs.shown.size(), 1U);  // no mail account
-    EXPECT_FALSE(statusShown);
-    EXPECT_FALSE(w.control<QCheckBox>("chkPrint(3)")->isChecked());
-    EXPECT_TRUE(fileText(csv).startsWith(QStringLiteral("1/1/2027,9:00,17:00,Brennan,1,")));
-    EXPECT_EQ(w.ws.schedule(4, 1, 0), leaveEmptyText());
-    EXPECT_TRUE(main.fraDate->isVisible() && !main.fraStatus->isVisible() && !w.busy());
-}
 
 // The window's close box, pressed while the meeting requests go to a server that answers
 // each after a while and refuses the first agent's, stops the export at once: nothing is
@@ -89,21 +60,4 @@ TEST(ExportCommand, ClosingTheWindowStopsTheExportBeforeTheCloseRoad) {
     const QString log = fileText(w.ws.gLogFile);
     EXPECT_LT(log.indexOf(u"Failed to create"), log.indexOf(u"Unloading the main form"));
     EXPECT_TRUE(log.section(QStringLiteral("\r\n"), -2, -2).contains(u"Closing Desko40.log on "));
-}
-
-// File > Save calendars as iCalendar files... asks for a folder in the program's directory, and
-// writes a file per agent and one for the office there.
-TEST(ExportCommand, SavesTheCalendarsInTheFolderChosen) {
-    MainWindow w;
-    setAgents(w.ws, {{"Brennan", "Pat"}, {"Chen", "Wei"}});
-    frmMain& main = w.open();
-    QAction* item = w.control<QAction>("mnuFSaveIcs");
-    w.ws.gScheduleGenerated = 1;
-    emit main.mnuFile->aboutToShow();
-    w.s.dialogs.fileAnswers = {w.home.path()};
-    item->trigger();
-    EXPECT_EQ(w.s.dialogs.filesShown.at(0).request.initialDir, w.ws.gAppPath);
-    EXPECT_EQ(QDir(w.home.path()).entryList({QStringLiteral("*.ics")}),
-              QStringList({QStringLiteral("Brennan, Pat.ics"), QStringLiteral("Chen, Wei.ics"),
-                           QStringLiteral("Office.ics")}));
 }
