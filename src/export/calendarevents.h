@@ -11,16 +11,16 @@ typedef struct icalcomponent_impl icalcomponent;
 
 // One appointment of one agent, as a calendar event.
 struct CalendarEvent {
-    QString uid;  // the same for the same appointment, so that a later version replaces it
-    QDate date;
+    QString uid{};  // the same for the same appointment, so that a later version replaces it
+    QDate date{};
     bool allDay = false;
     int start = 0;  // minutes after midnight, unless all day
     int end = 0;
-    QString summary;
-    QString description;
-    QString organizer;     // an address; empty: none
-    QString attendee;      // an address; empty: none
-    QString attendeeName;  // how the attendee is called; empty: not said
+    QString summary{};
+    QString description{};
+    QString organizer{};     // an address; empty: none
+    QString attendee{};      // an address; empty: none
+    QString attendeeName{};  // how the attendee is called; empty: not said
 };
 
 // What a calendar asks of the program that reads it (RFC 5546): a meeting request, the

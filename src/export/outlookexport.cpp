@@ -80,16 +80,11 @@ void OutlookChannel::run() {
     // The probe appointment readies the time zone's tables before the real work; it is
     // never sent.
     const QString firstAddress = ws_.gAgentCount >= 1 ? ws_.gAgentEmail[1] : QString();
-    requests_.build(CalendarMethod::Request, {{QString(),
-                                               QDate(2035, 1, 1),
-                                               false,
-                                               60,
-                                               120,
-                                               {},
-                                               {},
-                                               session_.sender(),
-                                               firstAddress,
-                                               {}}});
+    requests_.build(CalendarMethod::Request, {{.date = QDate(2035, 1, 1),
+                                               .start = 60,
+                                               .end = 120,
+                                               .organizer = session_.sender(),
+                                               .attendee = firstAddress}});
     ctx_.events.doEvents();
     cancelWithdrawnAppointments();
     // done counts on over all agents, so the bar is full after the first agent's pass.
@@ -218,16 +213,14 @@ void OutlookChannel::cancelWithdrawnAppointments() {
         }
         const SentAppointment& sent = *it;
         const QByteArray cancellation =
-            requests_.build(CalendarMethod::Cancel, {{sent.uid,
-                                                      sent.date,
-                                                      false,
-                                                      sent.start,
-                                                      sent.end,
-                                                      ws_.gOutlookSubject,
-                                                      ws_.gOutlookBody,
-                                                      session_.sender(),
-                                                      sent.attendee,
-                                                      {}}});
+            requests_.build(CalendarMethod::Cancel, {{.uid = sent.uid,
+                                                      .date = sent.date,
+                                                      .start = sent.start,
+                                                      .end = sent.end,
+                                                      .summary = ws_.gOutlookSubject,
+                                                      .description = ws_.gOutlookBody,
+                                                      .organizer = session_.sender(),
+                                                      .attendee = sent.attendee}});
         const std::optional<SendFailure> failure =
             session_.send(ctx_.clock.now(),
                           {sent.attendee, QStringLiteral("Cancelled: ") + ws_.gOutlookSubject,
